@@ -1,0 +1,7 @@
+#!/usr/bin/env bash
+# Sets everything up, then runs the whole test suite in a virtual X server.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+bash scripts/setup.sh
+cd build
+xvfb-run -a -s "-screen 0 1920x1080x24" ctest --output-on-failure --timeout 900 -j2

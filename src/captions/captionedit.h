@@ -1,0 +1,28 @@
+#ifndef CAPTIONEDIT_H
+#define CAPTIONEDIT_H
+
+#include <QColor>
+#include <QMetaType>
+#include <QString>
+
+// Position, size, border, shadow and colours of a caption as edited in the
+// player. x/y live in the 384x288 script space a renderer assumes when the
+// script states no play resolution; 192,268 is its bottom-centre anchor.
+class CaptionEdit
+{
+public:
+    int x = 192;
+    int y = 268;
+    int fontSize = 18;
+    int border = 1;
+    int shadow = 1;
+    QColor fontColor = Qt::white;
+    QColor borderColor = Qt::black;
+    QColor shadowColor = Qt::black;
+    bool isChange = false;
+    QString text;
+};
+
+Q_DECLARE_METATYPE(CaptionEdit)
+
+#endif // CAPTIONEDIT_H

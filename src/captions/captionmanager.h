@@ -1,0 +1,86 @@
+#ifndef CAPTIONMANAGER_H
+#define CAPTIONMANAGER_H
+
+#include "captioninfo.h"
+#include "captionstyle.h"
+#include "languageitem.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+// The caption list of the open video, its styles, the recognition language and
+// the working files (extracted audio, raw service reply, working ASS file).
+class CaptionManager : public QObject
+{
+    Q_OBJECT
+public:
+    static CaptionManager* instance();
+
+    void initLang();
+    QList<Language::LanguageItem*> getLangItems() const { return m_langItems; }
+
+    double getCurrentTime() const { return m_currentTime; }
+    void setCurrentTime(double ms) { m_currentTime = ms; }
+
+    void setVideoFilePath(const QString& path) { m_videoFilePath = path; }
+    QString getVideoFilePath() const { return m_videoFilePath; }
+    void setAudioFilePath(const QString& path) { m_audioFilePath = path; }
+    void setCaptionPath(const QString& path) { m_captionPath = path; }
+    QString getAssFilePath() const { return m_assFilePath; }
+
+    QString getAudioFilePath() const;
+    QString getCaptionPath() const;
+    QString getTempAssFilePath() const;
+
+    Language::LanguageItem* getCurrentLangItem() const { return m_currentLangItem; }
+    void setCurrentLangItem(Language::LanguageItem* item);
+    void setCurrentLangItem(int key);
+    Language::LanguageItem* getLangItemByKey(int key) const;
+    int getLangItemIndexByKey(int key) const;
+
+    QList<CaptionInfo*> getCaptions() const { return m_captions; }
+    QList<CaptionStyle*> getStyles() const { return m_styles; }
+    QStringList getFileLines() const { return m_fileLines; }
+    CaptionInfo* getCaptionDataByIndex(int index) const;
+    void clearCaptions();
+    int getMaxTextWidth() const;
+    int getDigits() const { return 0; }
+
+    // ASS writer
+    bool createCaptions(const QByteArray& json, bool save);
+    static QString formatAssTime(int ms);
+    static int parseAssTime(const QString& text);
+    static CaptionStyle* parseStyleLine(const QString& line);
+    static QString formatStyleLine(const CaptionStyle& style);
+
+    // Loading
+    int loadCaptionFile(const QString& path);
+
+    // Editing
+    void changeCaption(CaptionInfo* info);
+    void changeCaptionNew(CaptionInfo* info, bool isAll);
+    CaptionInfo* insertCaptionInfo(double time, double duration);
+
+private:
+    explicit CaptionManager(QObject* parent = nullptr);
+    QString workingFilePath(const QString& suffix) const;
+
+    QList<CaptionInfo*> m_captions;
+    QList<CaptionStyle*> m_styles;
+    double m_currentTime = -1.0;
+    QString m_videoFilePath;
+    QString m_audioFilePath;
+    QString m_captionPath;
+    QStringList m_fileLines;
+    QString m_assFilePath;
+    Language::LanguageItem* m_currentLangItem = nullptr;
+    QList<Language::LanguageItem*> m_langItems;
+};
+
+// A change of a caption's tick or show state takes effect at the next regeneration.
+void updateCaptionByCheck(CaptionInfo* info);
+
+#endif // CAPTIONMANAGER_H

@@ -1,0 +1,73 @@
+#include "appconfig.h"
+#include "globalmanager.h"
+#include "mainwindow.h"
+#include "screenmanager.h"
+#include "translatemanager.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QDebug>
+#include <QFile>
+#include <QScreen>
+#include <QSharedMemory>
+#include <QSslSocket>
+
+#include <clocale>
+
+int main(int argc, char* argv[])
+{
+    QSharedMemory guard(AppConfig::APP_NAME);
+#ifndef Q_OS_WIN
+    // A crashed run leaves its segment behind on Unix. Attaching and detaching
+    // once drops a segment that no live process holds; one that a running copy
+    // holds survives and is caught by the attach below.
+    if (guard.attach(QSharedMemory::ReadWrite)) {
+        guard.detach();
+    }
+#endif
+    if (guard.attach(QSharedMemory::ReadWrite)) {
+        return 1;
+    }
+    guard.create(1, QSharedMemory::ReadWrite);
+
+    AppConfig::registerMetaTypes();
+
+    auto* app = new QApplication(argc, argv);
+    // libmpv refuses to start under a non-C numeric locale.
+    std::setlocale(LC_NUMERIC, "C");
+    AppConfig::initResources();
+
+    GlobalManager::instance()->initLog();
+    qDebug() << "sslLibraryBuildVersionString" << QSslSocket::sslLibraryBuildVersionString();
+    qDebug() << "supportsSsl" << (QSslSocket::supportsSsl() ? "true" : "false");
+    qDebug() << "sslLibraryVersionString" << QSslSocket::sslLibraryVersionString();
+
+    ScreenManager::instance()->init(QGuiApplication::screenAt(QCursor::pos()));
+    TranslateManager::instance()->init();
+
+    auto* styleFile = new QFile(QStringLiteral(":/qss/application.qss"));
+    auto* styleSheet = new QString();
+    if (styleFile->open(QIODevice::ReadOnly)) {
+        const QByteArray bytes = styleFile->readAll();
+        const int nul = bytes.indexOf('\0');
+        *styleSheet = QString::fromUtf8(nul < 0 ? bytes : bytes.left(nul));
+    }
+    styleSheet->replace(QStringLiteral("8pt"), QStringLiteral("11pt"));
+    styleSheet->replace(QStringLiteral("padding-top: 3px;"), QStringLiteral("padding-top: 2px;"));
+    styleSheet->replace(QStringLiteral("padding-bottom: 3px;"), QStringLiteral("padding-bottom: 2px;"));
+    ScreenManager::instance()->styleDpiChange(*styleSheet);
+    app->setStyleSheet(*styleSheet);
+
+    auto* window = new MainWindow(nullptr);
+    window->show();
+    window->resize(AppConfig::rate(QSize(1100, 741)));
+    window->startUp(QCoreApplication::arguments().mid(1));
+
+    QObject::connect(app, &QCoreApplication::aboutToQuit, [&guard]() { guard.detach(); });
+    const int result = app->exec();
+
+    delete styleSheet;
+    delete styleFile;
+    delete app;
+    return result;
+}

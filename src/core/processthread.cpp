@@ -1,0 +1,108 @@
+#include "processthread.h"
+
+#include <QDebug>
+#include <QMetaEnum>
+
+namespace {
+// Text of a byte buffer up to its first NUL byte.
+QString textUpToNul(const QByteArray& bytes)
+{
+    const int nul = bytes.indexOf('\0');
+    return QString::fromLocal8Bit(nul < 0 ? bytes : bytes.left(nul));
+}
+} // namespace
+
+ProcessThread::ProcessThread(QObject* parent)
+    : QThread(parent)
+    , m_process(new QProcess())
+{
+    // The process is driven from run(): it belongs to the worker thread, and its
+    // handlers run there (directly) while run() waits, so every output and error
+    // signal is queued to listeners before processStop.
+    m_process->moveToThread(this);
+    connect(m_process, &QProcess::readyReadStandardOutput, this,
+            &ProcessThread::onReadyReadStandardOutput, Qt::DirectConnection);
+    connect(m_process, &QProcess::readyReadStandardError, this,
+            &ProcessThread::onReadyReadStandardError, Qt::DirectConnection);
+    connect(m_process, &QProcess::errorOccurred, this, &ProcessThread::onErrorOccurred,
+            Qt::DirectConnection);
+}
+
+ProcessThread::~ProcessThread()
+{
+    if (isRunning()) {
+        if (m_process->state() != QProcess::NotRunning) {
+            m_process->kill();
+        }
+        wait();
+    }
+    delete m_process;
+}
+
+void ProcessThread::setCommand(const QString& program, const QStringList& arguments,
+                               QIODevice::OpenMode mode)
+{
+    m_program = program;
+    m_arguments = arguments;
+    m_openMode = mode;
+}
+
+void ProcessThread::setProcessWorkingDirectory(const QString& dir)
+{
+    m_process->setWorkingDirectory(dir);
+}
+
+void ProcessThread::setWaitFinishTime(int ms)
+{
+    m_waitFinishTime = ms;
+}
+
+void ProcessThread::stopProcess()
+{
+    QThread::msleep(200);
+    m_process->kill();
+}
+
+void ProcessThread::onReadyReadStandardOutput()
+{
+    const QString text = textUpToNul(m_process->readAllStandardOutput());
+    qDebug() << "onReadyReadStandardOutput" << text;
+    emit processOutput(text);
+}
+
+void ProcessThread::onReadyReadStandardError()
+{
+    const QString text = textUpToNul(m_process->readAllStandardError());
+    qDebug() << "Process Error:" << text;
+    emit processError(text);
+}
+
+void ProcessThread::onErrorOccurred(QProcess::ProcessError error)
+{
+    const QMetaEnum e = QMetaEnum::fromType<QProcess::ProcessError>();
+    qDebug() << "Process errorOccurred:" << e.valueToKey(error);
+}
+
+void ProcessThread::run()
+{
+    m_processId = 0;
+    m_process->start(m_program, m_arguments, m_openMode);
+    qDebug() << "Rum command" << m_process->workingDirectory() << m_program << m_arguments;
+    if (!m_process->waitForStarted(30000)) {
+        qDebug().noquote() << tr("Failed to start process %1. exit code %2")
+                                  .arg(m_processId)
+                                  .arg(m_process->exitCode());
+        emit processFailed();
+        return;
+    }
+    m_processId = m_process->processId();
+    qDebug().noquote() << QStringLiteral("Process %1 has been started.").arg(m_processId);
+    emit processStart();
+    if (m_process->waitForFinished(m_waitFinishTime)) {
+        qDebug().noquote() << QStringLiteral("Process %1 has been finish.").arg(m_processId);
+        // Let the last output and error signals reach listeners first.
+        QThread::msleep(1000);
+        emit processStop();
+        requestInterruption();
+    }
+}
