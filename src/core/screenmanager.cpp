@@ -28,7 +28,12 @@ void ScreenManager::init(QScreen* screen)
         // No screen under the pointer: the primary one is the best guess.
         screen = QGuiApplication::primaryScreen();
     }
-    const double logicalDpi = screen ? screen->logicalDotsPerInch() : 96.0;
+    initWithDpi(screen ? screen->logicalDotsPerInch() : 96.0,
+                screen ? screen->physicalDotsPerInch() : 96.0, screen ? screen->devicePixelRatio() : 1.0);
+}
+
+void ScreenManager::initWithDpi(double logicalDpi, double physicalDpi, double deviceRatio)
+{
     const double r = logicalDpi / 96.0;
     m_currentRate = r;
     m_realRate = r;
@@ -41,10 +46,9 @@ void ScreenManager::init(QScreen* screen)
     m_isMac11 = versionAtLeast11(version);
     qDebug() << "OS Version:" << version << (m_isMac11 ? "true" : "false");
 
-    m_deviceRatio = screen ? screen->devicePixelRatio() : 1.0;
+    m_deviceRatio = deviceRatio;
     qDebug() << "screen init" << m_currentRate << m_lastRate << m_realRate;
-    qDebug() << "screen dip" << logicalDpi << (screen ? screen->physicalDotsPerInch() : 96.0)
-             << m_deviceRatio;
+    qDebug() << "screen dip" << logicalDpi << physicalDpi << m_deviceRatio;
 }
 
 void ScreenManager::updateRate(QScreen* screen)
@@ -52,8 +56,14 @@ void ScreenManager::updateRate(QScreen* screen)
     if (!screen) {
         return;
     }
+    updateRateWithDpi(screen->logicalDotsPerInch());
+}
+
+void ScreenManager::updateRateWithDpi(double logicalDpi)
+{
+    // No lower bound here, unlike at start-up.
     m_lastRate = m_currentRate;
-    m_currentRate = screen->logicalDotsPerInch() / 96.0;
+    m_currentRate = logicalDpi / 96.0;
 }
 
 int ScreenManager::rate(int value) const
@@ -102,6 +112,11 @@ int ScreenManager::findPxStart(const QString& text, int from)
 
 void ScreenManager::styleDpiChange(QString& styleSheet) const
 {
+    scaleStyleSheet(styleSheet, m_currentRate);
+}
+
+void ScreenManager::scaleStyleSheet(QString& styleSheet, double rate)
+{
     int p = 0;
     for (;;) {
         const int px = styleSheet.indexOf(QLatin1String("px"), p + 1);
@@ -116,7 +131,7 @@ void ScreenManager::styleDpiChange(QString& styleSheet) const
         }
         const QString digits = styleSheet.mid(start, px - start);
         const int value = digits.isEmpty() ? 0 : digits.toInt();
-        const QString scaled = QString::number(static_cast<int>(value * m_currentRate));
+        const QString scaled = QString::number(static_cast<int>(value * rate));
         styleSheet.replace(start, px - start, scaled);
         p = start + 2 + scaled.length();
     }

@@ -20,6 +20,9 @@ public:
 
     void init(QScreen* screen);
     void updateRate(QScreen* screen);
+    // The same steps from the figures a screen reports.
+    void initWithDpi(double logicalDpi, double physicalDpi, double deviceRatio);
+    void updateRateWithDpi(double logicalDpi);
 
     double getLastRate() const { return m_lastRate; }
     double getCurrentRate() const { return m_currentRate; }
@@ -34,6 +37,7 @@ public:
     QRect rate(const QRect& rect) const;
 
     void styleDpiChange(QString& styleSheet) const;
+    static void scaleStyleSheet(QString& styleSheet, double rate);
     void updateWidgetInNewScreen(QWidget* widget);
     void updateWidgetChildrenInNewScreen(QWidget* widget);
 
