@@ -421,8 +421,10 @@ bool CaptionManager::createCaptions(const QByteArray& json, bool save)
 
 int CaptionManager::loadCaptionFile(const QString& path)
 {
-    // A conversion's own message belongs to its output and to the fallback load.
-    if (!path.isEmpty() && path != m_errorPath) {
+    // A conversion's own message belongs to its output and to the fallback
+    // load that follows a failed conversion; anything else starts afresh.
+    const bool afterConversion = path.isEmpty() ? !m_errorPath.isEmpty() : path == m_errorPath;
+    if (!afterConversion) {
         m_lastError.clear();
     }
     m_errorPath.clear();
