@@ -372,6 +372,20 @@ private slots:
         QCOMPARE(readText(m->getTempAssFilePath()), expected);
     }
 
+    void lineEditWithoutLoadedFile()
+    {
+        // Generated captions have no file lines: the working file must survive.
+        m->loadCaptionFile(TestSupport::makeWorkDir(QStringLiteral("nolines")) + QStringLiteral("/absent.ass"));
+        m->createCaptions(utterances({{0, 1000, QStringLiteral("generated")}}), false);
+        const QString before = readText(m->getTempAssFilePath());
+        QSignalSpy spy(GlobalManager::instance(), &GlobalManager::globalEvent);
+        m->getCaptionDataByIndex(1)->text = QStringLiteral("changed");
+        m->changeCaption(m->getCaptionDataByIndex(1));
+        QCOMPARE(readText(m->getTempAssFilePath()), before);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0).at(0).toString(), AppConfig::UPDATE_CAPTION);
+    }
+
     void insertIntoGap()
     {
         m->createCaptions(utterances({{1000, 3000, QStringLiteral("a")}, {5000, 8000, QStringLiteral("b")}}),

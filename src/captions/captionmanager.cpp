@@ -592,7 +592,11 @@ void CaptionManager::changeCaption(CaptionInfo* info)
     qDebug() << "changeCaption lines:" << m_fileLines.size();
 
     QFile file;
-    if (openWorkingFile(file, "Failed to open the output file for writing")) {
+    if (m_fileLines.isEmpty()) {
+        // Nothing loaded: an empty rewrite would wipe the captions on screen.
+        file.setFileName(getTempAssFilePath());
+        qDebug() << "changeCaption: no loaded file lines, working file left as is";
+    } else if (openWorkingFile(file, "Failed to open the output file for writing")) {
         QTextStream out(&file);
         out.setCodec("UTF-8");
         for (const QString& line : qAsConst(m_fileLines)) {
