@@ -11,6 +11,9 @@
 #include <QString>
 #include <QStringList>
 
+class QFile;
+class QTextStream;
+
 // The caption list of the open video, its styles, the recognition language and
 // the working files (extracted audio, raw service reply, working ASS file).
 class CaptionManager : public QObject
@@ -59,6 +62,13 @@ public:
     // Loading
     int loadCaptionFile(const QString& path);
 
+    // Why the latest subtitle load or SRT conversion gave the user nothing new
+    // (unreadable file, no captions, ffmpeg missing or failing); empty when it
+    // went well. loadCaptionFile(path) starts afresh unless path is the file the
+    // conversion reported on; loadCaptionFile("") keeps the conversion's message.
+    QString lastError() const { return m_lastError; }
+    void setLastError(const QString& text, const QString& forPath = QString());
+
     // Editing
     void changeCaption(CaptionInfo* info);
     void changeCaptionNew(CaptionInfo* info, bool isAll);
@@ -67,6 +77,10 @@ public:
 private:
     explicit CaptionManager(QObject* parent = nullptr);
     QString workingFilePath(const QString& suffix) const;
+    bool openWorkingFile(QFile& file, const char* failureLog) const;
+    void writeHeader(QTextStream& stream) const;
+    void parseLines(const QString& content);
+    void reportLoadError(const QString& text);
 
     QList<CaptionInfo*> m_captions;
     QList<CaptionStyle*> m_styles;
@@ -78,6 +92,8 @@ private:
     QString m_assFilePath;
     Language::LanguageItem* m_currentLangItem = nullptr;
     QList<Language::LanguageItem*> m_langItems;
+    QString m_lastError;
+    QString m_errorPath;
 };
 
 // A change of a caption's tick or show state takes effect at the next regeneration.

@@ -5,6 +5,7 @@
 #include "filemanager.h"
 #include "httpmanager.h"
 #include "processthread.h"
+#include "subtitleencoding.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -296,18 +297,50 @@ QString GlobalManager::srtToAss(const QString& srtPath)
     const QString output = QStringLiteral("%1/%2.ass")
                                .arg(getTempPath(AppConfig::APP_NAME), QFileInfo(srtPath).completeBaseName());
     qDebug() << "srtToAss->" << output;
+    CaptionManager* captions = CaptionManager::instance();
+    captions->setLastError(QString(), output);
+    const QString name = QFileInfo(srtPath).fileName();
 
+    // ffmpeg refuses subtitles that are not UTF-8 unless told their charset.
+    QStringList arguments;
+    const QByteArray charset = SubtitleEncoding::detectLegacyFile(srtPath);
+    if (!charset.isEmpty()) {
+        qDebug() << "srtToAss charset:" << charset;
+        arguments << QStringLiteral("-sub_charenc") << QString::fromLatin1(charset);
+    }
+    arguments << QStringLiteral("-i") << srtPath << QStringLiteral("-y") << output;
+
+    const QString program = getFfmpegPath();
     QProcess process;
-    process.start(getFfmpegPath(), {QStringLiteral("-i"), srtPath, QStringLiteral("-y"), output});
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, arguments);
+    if (!process.waitForStarted(10000)) {
+        qDebug() << "Error: FFmpeg process failed to start:" << program << process.errorString();
+        captions->setLastError(tr("The SRT file \"%1\" could not be converted: ffmpeg was not found.").arg(name),
+                               output);
+        return QString();
+    }
+    process.closeWriteChannel();
     if (!process.waitForFinished(30000)) {
         qDebug() << "Error: FFmpeg process failed to finish.";
         process.kill();
         process.waitForFinished(1000);
+        captions->setLastError(
+            tr("The SRT file \"%1\" could not be converted: ffmpeg did not finish in time.").arg(name), output);
         return QString();
+    }
+    const bool failed = process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0;
+    if (failed) {
+        qDebug() << "srtToAss: ffmpeg exit code" << process.exitCode()
+                 << QString::fromLocal8Bit(process.readAll().right(2000));
     }
     if (!QFileInfo::exists(output)) {
         qDebug() << "Error: Failed to convert SRT to ASS.";
+        captions->setLastError(tr("The SRT file \"%1\" could not be converted.").arg(name), output);
         return QString();
+    }
+    if (failed) {
+        captions->setLastError(tr("The SRT file \"%1\" could not be converted.").arg(name), output);
     }
     qDebug() << "SRT to ASS conversion completed successfully.";
     QString content = readFileContent(output);

@@ -1,0 +1,259 @@
+// Every working file the program writes, read back by a real subtitle renderer:
+// events, times, texts and style names must be what the caption list holds,
+// and a rendered caption must land where its position tag puts it.
+#include "appconfig.h"
+#include "captionmanager.h"
+#include "globalmanager.h"
+#include "testsupport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRect>
+#include <QtTest>
+
+extern "C" {
+#include <ass/ass.h>
+}
+
+namespace {
+void quietLibass(int level, const char* format, va_list args, void* data)
+{
+    Q_UNUSED(format)
+    Q_UNUSED(args)
+    Q_UNUSED(data)
+    Q_UNUSED(level)
+}
+
+QByteArray utterances(const QList<std::tuple<int, int, QString>>& items)
+{
+    QJsonArray array;
+    for (const auto& item : items) {
+        array.append(QJsonObject{{QStringLiteral("start_time"), std::get<0>(item)},
+                                 {QStringLiteral("end_time"), std::get<1>(item)},
+                                 {QStringLiteral("text"), std::get<2>(item)}});
+    }
+    return QJsonDocument(QJsonObject{{QStringLiteral("utterances"), array}}).toJson();
+}
+} // namespace
+
+class TestAssWriter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        TestSupport::isolate();
+        GlobalManager::instance()->setCurrentFile(QFileInfo(QStringLiteral("/videos/trip.mp4")));
+        m = CaptionManager::instance();
+        m->setCurrentLangItem(0);
+        m_library = ass_library_init();
+        QVERIFY(m_library);
+        ass_set_message_cb(m_library, quietLibass, nullptr);
+        m_renderer = ass_renderer_init(m_library);
+        QVERIFY(m_renderer);
+        ass_set_frame_size(m_renderer, 384, 288);
+        ass_set_fonts(m_renderer, nullptr, "sans-serif", ASS_FONTPROVIDER_AUTODETECT, nullptr, 1);
+    }
+
+    void cleanupTestCase()
+    {
+        ass_renderer_done(m_renderer);
+        ass_library_done(m_library);
+    }
+
+    void emptyFile()
+    {
+        m->createCaptions(QByteArray("{\"state\":\"success\",\"utterances\":[]}"), false);
+        ASS_Track* track = readBack();
+        QVERIFY(track);
+        QCOMPARE(track->n_events, 0);
+        QCOMPARE(fileStyleCount(track), 1);
+        QCOMPARE(QString::fromUtf8(track->styles[1].Name), QStringLiteral("Default"));
+        QCOMPARE(track->styles[1].FontSize, 18.0);
+        ass_free_track(track);
+    }
+
+    void generatedFile()
+    {
+        // Times chosen where unpadded hundredths are easy to misread.
+        m->createCaptions(utterances({{0, 5030, QStringLiteral("zero, start")},
+                                      {5030, 59999, QStringLiteral("back to back")},
+                                      {65030, 3600000, QStringLiteral("中文字幕")},
+                                      {3723450, 3723999, QStringLiteral("tail")}}),
+                          false);
+        ASS_Track* track = readBack();
+        QVERIFY(track);
+        compareWithList(track, {});
+        QCOMPARE(track->events[0].Duration, 5020LL); // shortened to keep clear of the next one
+        QCOMPARE(track->events[3].Start, 3723450LL);
+        QCOMPARE(track->events[3].Duration, 540LL);
+        ass_free_track(track);
+    }
+
+    void editOneAndRender()
+    {
+        m->createCaptions(utterances({{1000, 4000, QStringLiteral("first")}, {5000, 8000, QStringLiteral("second")}}),
+                          false);
+        CaptionInfo* first = m->getCaptionDataByIndex(1);
+        first->captionEdit->text = QStringLiteral("MMMM");
+        first->captionEdit->x = 100;
+        first->captionEdit->y = 150;
+        first->captionEdit->fontSize = 30;
+        m->changeCaptionNew(first, false);
+
+        ASS_Track* track = readBack();
+        QVERIFY(track);
+        compareWithList(track, {QStringLiteral("{\\fs30\\bord1\\shad1\\pos(100,150)}"), QString()});
+        // Bottom-centre alignment: the glyphs sit left-right around x and end just above y.
+        const QRect box = renderBox(track, 2000);
+        QVERIFY2(!box.isEmpty(), "nothing rendered");
+        QVERIFY2(qAbs(box.center().x() - 100) <= 6, qPrintable(rectText(box)));
+        QVERIFY2(box.bottom() <= 156 && box.bottom() >= 140, qPrintable(rectText(box)));
+        QVERIFY2(box.height() >= 15 && box.height() <= 45, qPrintable(rectText(box)));
+        QVERIFY2(box.width() >= 40, qPrintable(rectText(box)));
+
+        // The unedited caption falls back on the style's bottom-centre placement.
+        const QRect plain = renderBox(track, 6000);
+        QVERIFY2(qAbs(plain.center().x() - 192) <= 6, qPrintable(rectText(plain)));
+        QVERIFY2(plain.bottom() > 240, qPrintable(rectText(plain)));
+        ass_free_track(track);
+    }
+
+    void editAll()
+    {
+        m->createCaptions(utterances({{1000, 2000, QStringLiteral("a")},
+                                      {3000, 4000, QStringLiteral("b")},
+                                      {5000, 6000, QStringLiteral("c")}}),
+                          false);
+        CaptionInfo* middle = m->getCaptionDataByIndex(2);
+        middle->captionEdit->x = 192;
+        middle->captionEdit->y = 40;
+        middle->captionEdit->fontSize = 22;
+        m->getCaptionDataByIndex(3)->isShow = false;
+        m->changeCaptionNew(middle, true);
+
+        ASS_Track* track = readBack();
+        QVERIFY(track);
+        const QString block = QStringLiteral("{\\fs22\\bord1\\shad1\\pos(192,40)}");
+        compareWithList(track, {block, block, block});
+        QCOMPARE(fileStyleCount(track), 1);
+        const QRect box = renderBox(track, 1500);
+        QVERIFY2(qAbs(box.center().x() - 192) <= 6 && box.bottom() <= 46, qPrintable(rectText(box)));
+        // A hidden caption renders nothing.
+        QVERIFY(renderBox(track, 5500).isEmpty());
+        ass_free_track(track);
+    }
+
+    void afterInsert()
+    {
+        m->createCaptions(utterances({{1000, 3000, QStringLiteral("a")}, {5000, 8000, QStringLiteral("b")}}),
+                          false);
+        CaptionInfo* inserted = m->insertCaptionInfo(3.0, 3000);
+        QVERIFY(inserted);
+        inserted->captionEdit = new CaptionEdit;
+        inserted->captionEdit->text = QStringLiteral("inserted");
+        inserted->isInsert = true;
+        m->changeCaptionNew(inserted, false);
+
+        ASS_Track* track = readBack();
+        QVERIFY(track);
+        compareWithList(track, {QString(), QStringLiteral("{\\fs18\\bord1\\shad1\\pos(192,268)}"), QString()});
+        QCOMPARE(track->events[1].Start, 3000LL);
+        QCOMPARE(track->events[1].Duration, 1990LL);
+        ass_free_track(track);
+    }
+
+    void loadedFileAfterLineEdit()
+    {
+        const QString source = TestSupport::makeWorkDir(QStringLiteral("asswriter")) + QStringLiteral("/in.ass");
+        QVERIFY(TestSupport::writeFile(
+            source, "\xEF\xBB\xBF[Script Info]\r\nScriptType: v4.00+\r\n\r\n[V4+ Styles]\r\n"
+                    "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, "
+                    "Bold, Italic, Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, "
+                    "Shadow, Alignment, MarginL, MarginR, MarginV, Encoding\r\n"
+                    "Style: Default,Arial,20,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,-1,0,0,0,100,100,0,0,1,2,"
+                    "3,2,20,20,20,1\r\n"
+                    "Style: Top,Arial,16,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,1,0,8,"
+                    "20,20,20,1\r\n\r\n[Events]\r\n"
+                    "Format: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\r\n"
+                    "Dialogue: 0,0:00:01.00,0:00:02.50,Default,,0,0,0,,one, with comma\r\n"
+                    "Dialogue: 1,0:00:03.00,0:00:04.00,Top,Bob,0,0,0,,two\r\n"));
+        QCOMPARE(m->loadCaptionFile(source), 0);
+        CaptionInfo* second = m->getCaptionDataByIndex(2);
+        second->text = QStringLiteral("two, edited");
+        m->changeCaption(second);
+
+        ASS_Track* track = readBack();
+        QVERIFY(track);
+        compareWithList(track, {QString(), QString()});
+        QCOMPARE(QString::fromUtf8(track->events[1].Name), QStringLiteral("Bob"));
+
+        // The full rewrite of a loaded file keeps its styles and adds none.
+        m->changeCaptionNew(m->getCaptionDataByIndex(1), false);
+        ASS_Track* rewritten = readBack();
+        QVERIFY(rewritten);
+        compareWithList(rewritten, {QStringLiteral("{\\fs20\\bord2\\shad1\\pos(192,268)}"), QString()});
+        QCOMPARE(fileStyleCount(rewritten), 2);
+        ass_free_track(track);
+        ass_free_track(rewritten);
+    }
+
+private:
+    ASS_Track* readBack()
+    {
+        QByteArray path = QFile::encodeName(m->getTempAssFilePath());
+        return ass_read_file(m_library, path.data(), nullptr);
+    }
+
+    // The renderer keeps a built-in fallback style in front of the file's own.
+    static int fileStyleCount(ASS_Track* track) { return track->n_styles - 1; }
+
+    // Events in list order, times read the way the program reads them, texts
+    // with the override block each caption should carry, resolvable styles.
+    void compareWithList(ASS_Track* track, const QStringList& overrides)
+    {
+        const QList<CaptionInfo*> captions = m->getCaptions();
+        QCOMPARE(track->n_events, captions.size());
+        for (int i = 0; i < captions.size(); ++i) {
+            const CaptionInfo* info = captions.at(i);
+            const ASS_Event& event = track->events[i];
+            QCOMPARE(event.Start, static_cast<long long>(CaptionManager::parseAssTime(info->start)));
+            QCOMPARE(event.Start + event.Duration, static_cast<long long>(CaptionManager::parseAssTime(info->end)));
+            const QString text = overrides.value(i) + (info->isShow ? info->text : QString());
+            QCOMPARE(QString::fromUtf8(event.Text), text);
+            QVERIFY(event.Style >= 1 && event.Style < track->n_styles);
+            QCOMPARE(QString::fromUtf8(track->styles[event.Style].Name), info->style);
+        }
+    }
+
+    QRect renderBox(ASS_Track* track, long long timeMs)
+    {
+        int changed = 0;
+        QRect box;
+        for (ASS_Image* image = ass_render_frame(m_renderer, track, timeMs, &changed); image;
+             image = image->next) {
+            for (int y = 0; y < image->h; ++y) {
+                for (int x = 0; x < image->w; ++x) {
+                    if (image->bitmap[y * image->stride + x] > 64) {
+                        box |= QRect(image->dst_x + x, image->dst_y + y, 1, 1);
+                    }
+                }
+            }
+        }
+        return box;
+    }
+
+    static QString rectText(const QRect& r)
+    {
+        return QStringLiteral("box %1,%2 %3x%4").arg(r.x()).arg(r.y()).arg(r.width()).arg(r.height());
+    }
+
+    CaptionManager* m = nullptr;
+    ASS_Library* m_library = nullptr;
+    ASS_Renderer* m_renderer = nullptr;
+};
+
+QTEST_GUILESS_MAIN(TestAssWriter)
+#include "test_asswriter.moc"

@@ -1,0 +1,380 @@
+// Loading local subtitle files into the caption list, SRT conversion with the
+// real ffmpeg, and input from the wild: wrong encodings, odd line ends,
+// truncated lines, binary junk, huge files, paths that are not files.
+#include "appconfig.h"
+#include "captionmanager.h"
+#include "globalmanager.h"
+#include "testsupport.h"
+
+#include <QDir>
+#include <QRandomGenerator>
+#include <QTextCodec>
+#include <QtTest>
+
+namespace {
+const QByteArray kStyleSection
+    = "[V4+ Styles]\n"
+      "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, Bold, Italic, "
+      "Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, Alignment, MarginL, "
+      "MarginR, MarginV, Encoding\n"
+      "Style: Default,Arial,20,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,2,1,2,20,20,20,1\n";
+const QByteArray kEventFormat
+    = "[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
+
+QByteArray assFile(const QByteArray& events)
+{
+    return "[Script Info]\nScriptType: v4.00+\n\n" + kStyleSection + "\n" + kEventFormat + events;
+}
+
+QString readText(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QStringList captionTexts()
+{
+    QStringList texts;
+    for (const CaptionInfo* info : CaptionManager::instance()->getCaptions()) {
+        texts << info->text;
+    }
+    return texts;
+}
+
+const QString kFrench = QStringLiteral("Café crème, naïve façade à côté de l'hôtel.");
+const QString kFrench2 = QStringLiteral("Garçon, où est la bière? Déjà très réussi, n'est-ce pas?");
+const QString kChinese = QStringLiteral("你好，世界。今天天气很好，我们去公园散步吧。");
+const QString kChinese2 = QStringLiteral("中文字幕测试，逗号和句号都要保留下来。");
+const QString kTraditional = QStringLiteral("你好，世界。今天天氣很好，我們去公園散步吧。");
+const QString kTraditional2 = QStringLiteral("中文字幕測試，逗號和句號都要保留下來。");
+
+QString srtText(const QStringList& lines)
+{
+    QString srt;
+    for (int i = 0; i < lines.size(); ++i) {
+        srt += QStringLiteral("%1\n00:00:%2,000 --> 00:00:%3,500\n%4\n\n")
+                   .arg(i + 1)
+                   .arg(i * 2 + 1, 2, 10, QLatin1Char('0'))
+                   .arg(i * 2 + 2, 2, 10, QLatin1Char('0'))
+                   .arg(lines.at(i));
+    }
+    return srt;
+}
+} // namespace
+
+class TestSubtitleLoading : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        TestSupport::isolate();
+        GlobalManager::instance()->setCurrentFile(QFileInfo(QStringLiteral("/videos/film.mkv")));
+        m = CaptionManager::instance();
+        m_dir = TestSupport::makeWorkDir(QStringLiteral("subtitleloading"));
+    }
+
+    void noPathAtAll()
+    {
+        QCOMPARE(m->loadCaptionFile(QString()), -1);
+        QVERIFY(m->getCaptions().isEmpty());
+        QVERIFY(!m->lastError().isEmpty());
+    }
+
+    void fieldsStylesAndIndices()
+    {
+        const QString path = m_dir + QStringLiteral("/fields.ass");
+        QVERIFY(TestSupport::writeFile(
+            path, "[Script Info]\nDialogue: 0,0:00:00.00,0:00:01.00,Default,,0,0,0,,before events\n\n"
+                      + kStyleSection
+                      + "Style: Big,Arial,40,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,3,1,"
+                        "2,20,20,20,1\n"
+                        "Style: Big,Arial,44.5,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,"
+                        "4,1,2,20,20,20,1\n"
+                        "Style:Tight,Arial,10\n\n"
+                      + kEventFormat
+                      + "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,nine commas\n"
+                        "Dialogue: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,eight commas\n"
+                        "Comment: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,,a comment\n"
+                        "  Dialogue: 2 , 0:0:5.3 ,0:00:06.00, Big ,Ann, 1,2,3, fx,Hello, world, again  \n"
+                        "Dialogue: 0,0:00:07.00,0:00:08.00,Nowhere,,0,0,0,,{\\i1}unknown style\n"));
+        QCOMPARE(m->loadCaptionFile(path), 0);
+        QVERIFY(m->lastError().isEmpty());
+        QCOMPARE(m->getAssFilePath(), path);
+        QCOMPARE(captionTexts(),
+                 QStringList({QStringLiteral("nine commas"), QStringLiteral("Hello, world, again"),
+                              QStringLiteral("{\\i1}unknown style")}));
+        QCOMPARE(m->getStyles().size(), 4);
+        QCOMPARE(m->getStyles().at(3)->name, QStringLiteral("Style:Tight"));
+
+        const CaptionInfo* big = m->getCaptionDataByIndex(2);
+        QCOMPARE(big->index, 2);
+        QCOMPARE(big->type, QStringLiteral("Dialogue"));
+        QCOMPARE(big->layer, QStringLiteral("2"));
+        QCOMPARE(big->start, QStringLiteral("0:0:5.3"));
+        QCOMPARE(big->end, QStringLiteral("0:00:06.00"));
+        QCOMPARE(big->style, QStringLiteral("Big"));
+        QCOMPARE(big->actor, QStringLiteral("Ann"));
+        QCOMPARE(big->marginL, QStringLiteral("1"));
+        QCOMPARE(big->marginV, QStringLiteral("3"));
+        QCOMPARE(big->effect, QStringLiteral("fx"));
+        QCOMPARE(big->initialText, big->text);
+        QCOMPARE(big->line, QStringLiteral("Dialogue: 2 , 0:0:5.3 ,0:00:06.00, Big ,Ann, 1,2,3, fx,Hello, world, again"));
+        // The later of two styles with one name wins; its numbers seed the edit record.
+        QCOMPARE(big->captionStyle->fontsize, QStringLiteral("44.5"));
+        QCOMPARE(big->captionEdit->fontSize, 44);
+        QCOMPARE(big->captionEdit->border, 4);
+        QCOMPARE(big->captionEdit->x, 192);
+        QCOMPARE(big->captionEdit->y, 268);
+        QCOMPARE(big->captionEdit->text, big->text);
+        QVERIFY(big->captionStyle != m->getStyles().at(2));
+
+        const CaptionInfo* orphan = m->getCaptionDataByIndex(3);
+        QVERIFY(orphan->captionStyle && orphan->captionStyle->name.isEmpty());
+        QCOMPARE(orphan->captionEdit->fontSize, 18);
+
+        // Every raw line is kept, untrimmed.
+        QVERIFY(m->getFileLines().contains(
+            QStringLiteral("  Dialogue: 2 , 0:0:5.3 ,0:00:06.00, Big ,Ann, 1,2,3, fx,Hello, world, again  ")));
+        QCOMPARE(m->getFileLines().last(),
+                 QStringLiteral("Dialogue: 0,0:00:07.00,0:00:08.00,Nowhere,,0,0,0,,{\\i1}unknown style"));
+    }
+
+    void lineEndsAndByteOrderMark_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const QByteArray events = "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,first\n"
+                                  "Dialogue: 0,0:00:03.00,0:00:04.00,Default,,0,0,0,,second";
+        const QByteArray lf = assFile(events);
+        QTest::newRow("lf") << lf;
+        QTest::newRow("bom crlf") << QByteArray("\xEF\xBB\xBF") + QByteArray(lf).replace("\n", "\r\n");
+        QTest::newRow("lone cr") << QByteArray(lf).replace("\n", "\r");
+        QTest::newRow("utf-16 bom") << QByteArray("\xFF\xFE")
+                                           + QByteArray(reinterpret_cast<const char*>(QString::fromUtf8(lf).utf16()),
+                                                        lf.size() * 2);
+    }
+
+    void lineEndsAndByteOrderMark()
+    {
+        QFETCH(QByteArray, bytes);
+        const QString path = m_dir + QStringLiteral("/lineends.ass");
+        QVERIFY(TestSupport::writeFile(path, bytes));
+        QCOMPARE(m->loadCaptionFile(path), 0);
+        QCOMPARE(captionTexts(), QStringList({QStringLiteral("first"), QStringLiteral("second")}));
+        QCOMPARE(m->getFileLines().first(), QStringLiteral("[Script Info]"));
+        QCOMPARE(m->getFileLines().size(), assFile("a\nb").count('\n') + 1);
+        QCOMPARE(m->getStyles().size(), 1);
+    }
+
+    void legacyEncodedAss()
+    {
+        const QString path = m_dir + QStringLiteral("/gbk.ass");
+        const QString events = QStringLiteral("Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,%1\n"
+                                              "Dialogue: 0,0:00:03.00,0:00:04.00,Default,,0,0,0,,%2\n")
+                                   .arg(kChinese, kChinese2);
+        QVERIFY(TestSupport::writeFile(path, QTextCodec::codecForName("GBK")->fromUnicode(
+                                                 QString::fromUtf8(assFile(events.toUtf8())))));
+        QCOMPARE(m->loadCaptionFile(path), 0);
+        QCOMPARE(captionTexts(), QStringList({kChinese, kChinese2}));
+    }
+
+    void fileWithoutEvents()
+    {
+        const QString path = m_dir + QStringLiteral("/noevents.ass");
+        QVERIFY(TestSupport::writeFile(path, "[Script Info]\n\n" + kStyleSection
+                                                 + "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,orphan\n"));
+        QCOMPARE(m->loadCaptionFile(path), 0);
+        QVERIFY(m->getCaptions().isEmpty());
+        QCOMPARE(m->getStyles().size(), 1);
+        QCOMPARE(m->getFileLines().size(), 6);
+        QVERIFY(m->lastError().contains(QStringLiteral("noevents.ass")));
+    }
+
+    void emptyFile()
+    {
+        const QString path = m_dir + QStringLiteral("/empty.ass");
+        QVERIFY(TestSupport::writeFile(path, QByteArray()));
+        QCOMPARE(m->loadCaptionFile(path), 0);
+        QVERIFY(m->getCaptions().isEmpty());
+        QVERIFY(m->getFileLines().isEmpty());
+        QVERIFY(!m->lastError().isEmpty());
+    }
+
+    void binaryFile()
+    {
+        QByteArray junk(2 * 1024 * 1024, '\0');
+        QRandomGenerator generator(1234);
+        for (int i = 0; i < junk.size(); i += 2) {
+            junk[i] = static_cast<char>(generator.bounded(256));
+        }
+        // A dialogue-looking fragment buried in junk, without any [Events] line.
+        junk.insert(1000, "\nDialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,junk\n");
+        const QString path = m_dir + QStringLiteral("/video.ass");
+        QVERIFY(TestSupport::writeFile(path, junk));
+        QCOMPARE(m->loadCaptionFile(path), 0);
+        QVERIFY(m->getCaptions().isEmpty());
+        QVERIFY(!m->lastError().isEmpty());
+    }
+
+    void pathsThatAreNotFiles()
+    {
+        const QString good = m_dir + QStringLiteral("/good.ass");
+        QVERIFY(TestSupport::writeFile(good, assFile("Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,kept\n")));
+        QCOMPARE(m->loadCaptionFile(good), 0);
+        QCOMPARE(m->getCaptions().size(), 1);
+
+        QCOMPARE(m->loadCaptionFile(m_dir + QStringLiteral("/missing.ass")), 1);
+        QVERIFY(m->getCaptions().isEmpty());
+        QVERIFY(m->lastError().contains(QStringLiteral("missing.ass")));
+        // The last good file stays the one to fall back on.
+        QCOMPARE(m->getAssFilePath(), good);
+
+        QCOMPARE(m->loadCaptionFile(m_dir), 1);
+        QVERIFY(m->getCaptions().isEmpty());
+        QVERIFY(!m->lastError().isEmpty());
+
+        QCOMPARE(m->loadCaptionFile(QString()), 0);
+        QCOMPARE(captionTexts(), QStringList({QStringLiteral("kept")}));
+        QVERIFY(m->lastError().isEmpty());
+    }
+
+    void hundredThousandEvents()
+    {
+        QByteArray events;
+        events.reserve(100000 * 80);
+        for (int i = 0; i < 100000; ++i) {
+            const QByteArray time = CaptionManager::formatAssTime(i * 100).toLatin1();
+            events += "Dialogue: 0," + time + "," + time + ",Default,,0,0,0,,line " + QByteArray::number(i)
+                      + ", with a comma\n";
+        }
+        const QString path = m_dir + QStringLiteral("/huge.ass");
+        QVERIFY(TestSupport::writeFile(path, assFile(events)));
+        QCOMPARE(m->loadCaptionFile(path), 0);
+        QCOMPARE(m->getCaptions().size(), 100000);
+        QCOMPARE(m->getCaptions().last()->index, 100000);
+        QCOMPARE(m->getCaptions().last()->text, QStringLiteral("line 99999, with a comma"));
+        QCOMPARE(m->getCaptions().last()->start, CaptionManager::formatAssTime(9999900));
+    }
+
+    void srtConversion()
+    {
+        const QString srt = m_dir + QStringLiteral("/Movie Night.srt");
+        QVERIFY(TestSupport::writeFile(
+            srt, QStringLiteral("\uFEFF1\r\n00:00:01,000 --> 00:00:02,500\r\n{\\an8}Up top, with a comma\r\n\r\n"
+                                "2\r\n00:00:03,000 --> 00:00:04,000\r\n%1\r\n\r\n"
+                                "3\r\n00:00:05,000 --> 00:00:06,000\r\nfirst line\r\nsecond line\r\n\r\n"
+                                "4\r\n00:00:07,000 --> 00:00:08,000\r\n{\\an1}Это русский, текст\r\n")
+                     .arg(kChinese)
+                     .toUtf8()));
+        const QString ass = GlobalManager::instance()->srtToAss(srt);
+        QCOMPARE(ass, GlobalManager::instance()->getTempPath(AppConfig::APP_NAME) + QStringLiteral("/Movie Night.ass"));
+        QVERIFY(m->lastError().isEmpty());
+
+        const QString content = readText(ass);
+        QVERIFY2(content.startsWith(QStringLiteral(
+                     "[Script Info]\n; Script generated by Glimmer\nTitle: Your Subtitle Title\nScriptType: v4.00+\n"
+                     "WrapStyle: 0\n\n[V4+ Styles]\nFormat: Name, Fontname, Fontsize, PrimaryColour, "
+                     "SecondaryColour, OutlineColour, BackColour, Bold, Italic, Underline, StrikeOut, ScaleX, "
+                     "ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, Alignment, MarginL, MarginR, "
+                     "MarginV, Encoding\nStyle: Default,Arial,20,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,"
+                     "-1,0,0,0,100,100,0,0,1,2,3,2,20,20,20,1\n\n[Events]")),
+                 qPrintable(content.left(600)));
+        QVERIFY(!content.contains(QStringLiteral("PlayResX")));
+        QVERIFY(!content.contains(QStringLiteral("{\\an")));
+        QCOMPARE(content.count(QStringLiteral("[V4+ Styles]")), 1);
+
+        QCOMPARE(m->loadCaptionFile(ass), 0);
+        QCOMPARE(captionTexts(),
+                 QStringList({QStringLiteral("Up top, with a comma"), kChinese, QStringLiteral("first line\\Nsecond line"),
+                              QStringLiteral("Это русский, текст")}));
+        const CaptionInfo* first = m->getCaptionDataByIndex(1);
+        QCOMPARE(CaptionManager::parseAssTime(first->start), 1000);
+        QCOMPARE(CaptionManager::parseAssTime(first->end), 2500);
+        QCOMPARE(first->captionEdit->fontSize, 20);
+        QCOMPARE(first->captionEdit->border, 2);
+        QVERIFY(m->lastError().isEmpty());
+    }
+
+    void upperCaseSuffix()
+    {
+        const QString srt = m_dir + QStringLiteral("/SHOUT.SRT");
+        QVERIFY(TestSupport::writeFile(srt, srtText({QStringLiteral("LOUD, CLEAR")}).toUtf8()));
+        const QString ass = GlobalManager::instance()->srtToAss(srt);
+        QVERIFY(ass.endsWith(QStringLiteral("/Glimmer/SHOUT.ass")));
+        QCOMPARE(m->loadCaptionFile(ass), 0);
+        QCOMPARE(captionTexts(), QStringList({QStringLiteral("LOUD, CLEAR")}));
+    }
+
+    void legacyEncodedSrt_data()
+    {
+        QTest::addColumn<QByteArray>("codec");
+        QTest::addColumn<QStringList>("lines");
+        QTest::newRow("latin-1") << QByteArray("ISO-8859-1") << QStringList({kFrench, kFrench2});
+        QTest::newRow("windows-1252") << QByteArray("windows-1252")
+                                      << QStringList({QStringLiteral("“Quoted” – price 5 €, naïve café"), kFrench2});
+        QTest::newRow("gbk") << QByteArray("GBK") << QStringList({kChinese, kChinese2});
+        QTest::newRow("big5") << QByteArray("Big5") << QStringList({kTraditional, kTraditional2});
+    }
+
+    void legacyEncodedSrt()
+    {
+        QFETCH(QByteArray, codec);
+        QFETCH(QStringList, lines);
+        const QString srt = m_dir + QStringLiteral("/legacy-%1.srt").arg(QString::fromLatin1(codec));
+        QVERIFY(TestSupport::writeFile(srt, QTextCodec::codecForName(codec)->fromUnicode(srtText(lines))));
+        const QString ass = GlobalManager::instance()->srtToAss(srt);
+        QVERIFY(!ass.isEmpty());
+        QVERIFY2(m->lastError().isEmpty(), qPrintable(m->lastError()));
+        QCOMPARE(m->loadCaptionFile(ass), 0);
+        QCOMPARE(captionTexts(), lines);
+    }
+
+    void ffmpegMissing()
+    {
+        const QString good = m_dir + QStringLiteral("/before.ass");
+        QVERIFY(TestSupport::writeFile(good, assFile("Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,before\n")));
+        QCOMPARE(m->loadCaptionFile(good), 0);
+
+        const QString srt = m_dir + QStringLiteral("/nofmpeg.srt");
+        QVERIFY(TestSupport::writeFile(srt, srtText({QStringLiteral("never converted")}).toUtf8()));
+        const QByteArray savedPath = qgetenv("PATH");
+        const QString emptyDir = TestSupport::makeWorkDir(QStringLiteral("emptybin"));
+        qputenv("PATH", emptyDir.toLocal8Bit());
+        const QString ass = GlobalManager::instance()->srtToAss(srt);
+        qputenv("PATH", savedPath);
+        QVERIFY(ass.isEmpty());
+        QVERIFY(m->lastError().contains(QStringLiteral("ffmpeg")));
+
+        // The main window then loads with the empty result: the previous file
+        // comes back and the conversion's message survives for the user.
+        QCOMPARE(m->loadCaptionFile(ass), 0);
+        QCOMPARE(captionTexts(), QStringList({QStringLiteral("before")}));
+        QVERIFY(m->lastError().contains(QStringLiteral("ffmpeg")));
+
+        // A fresh load of another file starts without the old message.
+        QCOMPARE(m->loadCaptionFile(good), 0);
+        QVERIFY(m->lastError().isEmpty());
+    }
+
+    void ffmpegRejectsInput()
+    {
+        const QString srt = m_dir + QStringLiteral("/notasubtitle.srt");
+        QVERIFY(TestSupport::writeFile(srt, "this is not a subtitle file at all\n"));
+        const QString ass = GlobalManager::instance()->srtToAss(srt);
+        const int result = m->loadCaptionFile(ass);
+        QVERIFY(result == 0 || result == 1);
+        QVERIFY(!m->lastError().isEmpty());
+        QVERIFY(m->lastError().contains(QStringLiteral("notasubtitle.srt")));
+
+        QVERIFY(GlobalManager::instance()->srtToAss(m_dir + QStringLiteral("/absent.srt")).isEmpty());
+        QVERIFY(m->lastError().contains(QStringLiteral("absent.srt")));
+    }
+
+private:
+    CaptionManager* m = nullptr;
+    QString m_dir;
+};
+
+QTEST_GUILESS_MAIN(TestSubtitleLoading)
+#include "test_subtitleloading.moc"
