@@ -1,17 +1,53 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
+#include "cframelesswindow.h"
+#include "downloadmanager.h"
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QList>
+#include <QMap>
+#include <QPixmap>
+#include <QPointer>
 #include <QStringList>
 #include <QVariant>
-#include <QWidget>
 
+class AboutDialog;
+class CaptionInfo;
+class CaptionWidget;
+class ImageItem;
+class ImagesWidget;
+class LoadingDialog;
+class MessageDialog;
+class PreviewWidget;
+class QActionGroup;
+class QDialog;
+class QMenu;
+class QSplitter;
+class QTimer;
 class QTranslator;
+class TitleBar;
+class VideoPlayWidget;
 
-// The application's single top-level window.
-class MainWindow : public QWidget
+// The application's single top-level window: creates and lays out the panels,
+// reacts to every event of the bus and runs the capture flows.
+class MainWindow : public CFramelessWindow
 {
     Q_OBJECT
 public:
+    enum MenuType {
+        MenuOpenVideo = 0,
+        MenuAddSubtitle = 1,
+        MenuCaptionPanel = 2,
+        MenuOutputFolder = 3,
+        MenuCheckUpdate = 4,
+        MenuRegister = 5,
+        MenuAbout = 6,
+        MenuLogFolder = 7,
+        MenuQuit = 8,
+    };
+
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
@@ -20,13 +56,113 @@ public:
 
     void changeLangByType(int type);
     void languageMenuTapByType(int type);
+    void menuTapByType(int type);
+    QMap<int, QString> getMenuTextMap() const;
+    void showCaptionWidget(bool show);
+    void loadCaption(const QString& path);
+    void quitAppFinishEvent();
+
     QTranslator* translator() const { return m_translator; }
+    TitleBar* titleBar() const { return m_titleBar; }
+    VideoPlayWidget* videoPlayWidget() const { return m_videoPlayWidget; }
+    ImagesWidget* imagesWidget() const { return m_imagesWidget; }
+    PreviewWidget* previewWidget() const { return m_previewWidget; }
+    CaptionWidget* captionWidget() const { return m_captionWidget; }
+    MessageDialog* messageDialog() const { return m_messageDialog; }
+    LoadingDialog* loadingDialog() const { return m_loadingDialog; }
+    CaptionInfo* editedCaption() const { return m_editedCaption; }
+    QList<CaptionInfo*> captureQueue() const { return m_captureQueue; }
+    bool isRecaptureAllPending() const { return m_recaptureAllPending; }
 
 public slots:
     void globalEventHandle(QString eventName, QVariant value);
+    void titleBarButtonClickedHandle(int type);
+    void downloadLastVersionStatus(DownloadManager::DownloadState state, QString text, QByteArray data);
+
+signals:
+    // A capture-checked pass ended with every ticked caption captured.
+    void captureSelectFinished();
+    // A re-capture after a style edit finished (one item or all of them).
+    void recaptureFinished();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void initialize();
+    void initTitleBar();
+    void initVideoPlayWidget();
+    void initImagesWidget();
+    void initPreviewWidget();
+    void initCaptionWidget();
+    void initMenu();
+    void initTopBarMenu();
+    void initConfig();
+    void retranslate();
+
+    // Capture flows
+    void captureSelectHandle(int type);
+    void captureEventHandle(int type, const QVariant& data);
+    void captionEditHandle(CaptionInfo* edit, bool isAll);
+    void seekForCapture(double seconds);
+    void armCaptureStep(int step);
+    void tryCaptureStep();
+    void captureSelectStep();
+    void recaptureSingleStep();
+    void recaptureAllStep(const QList<ImageItem*>& items);
+    void emitCapture(const QPixmap& pixmap);
+
+    // Automatic captions
+    void autoCaptionHandle(int languageKey);
+    void aiCaptionFailed(const QString& message);
+    void httpRequestErrorHandle(const QString& key, const QJsonObject& object, const QByteArray& data);
+
+    void addLocalSubtitle();
+    void openMediaFile(const QString& path);
+    void regenerateCaptions(CaptionInfo* info);
+    void showMessage(const QString& title, const QString& message);
+    void popupCaptionWidget(bool popup);
+
     QTranslator* m_translator = nullptr;
+    TitleBar* m_titleBar = nullptr;
+    VideoPlayWidget* m_videoPlayWidget = nullptr;
+    ImagesWidget* m_imagesWidget = nullptr;
+    PreviewWidget* m_previewWidget = nullptr;
+    CaptionWidget* m_captionWidget = nullptr;
+    MessageDialog* m_messageDialog = nullptr;
+    LoadingDialog* m_loadingDialog = nullptr;
+    QSplitter* m_mainSplitter = nullptr;
+    QSplitter* m_rightSplitter = nullptr;
+    QDialog* m_captionDialog = nullptr;
+    QPointer<AboutDialog> m_aboutDialog;
+
+    QMenu* m_menu = nullptr;
+    QMenu* m_formatMenu = nullptr;
+    QMenu* m_languageMenu = nullptr;
+    QActionGroup* m_formatGroup = nullptr;
+    QActionGroup* m_languageGroup = nullptr;
+    QMap<int, QAction*> m_menuActions;
+
+    // Capture state
+    QList<CaptionInfo*> m_captureQueue;
+    QList<QPixmap> m_recapturedPixmaps;
+    QPointer<ImageItem> m_currentImageItem;
+    CaptionInfo* m_editedCaption = nullptr;
+    bool m_recaptureAllPending = false;
+    // A capture waits for the seek's reply plus 500 ms and for the frame of
+    // that seek to be on screen (mpv's playback restart).
+    int m_pendingStep = 0;
+    bool m_waitElapsed = false;
+    bool m_restartSeen = false;
+    QTimer* m_restartTimeout = nullptr;
+    QList<ImageItem*> m_recaptureItems;
+
+    bool m_aiCaptionRunning = false;
+    bool m_updateAskedByUser = false;
 };
 
 #endif // MAINWINDOW_H
