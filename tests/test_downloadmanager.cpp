@@ -12,7 +12,6 @@
 #include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QStorageInfo>
 #include <QtTest>
 
 using State = DownloadManager::DownloadState;
@@ -29,7 +28,6 @@ private slots:
     void realDownloadWithProgressAndMd5();
     void failedDownloadReportsError();
     void toolLookupPrefersShippedTool();
-    void autoStorage();
 };
 
 void TestDownloadManager::initTestCase()
@@ -244,28 +242,6 @@ void TestDownloadManager::toolLookupPrefersShippedTool()
     const QString found = manager->toolPath();
     QFile::remove(shipped);
     QCOMPARE(found, shipped);
-}
-
-void TestDownloadManager::autoStorage()
-{
-    const QString suffix = QStringLiteral("/GlimmerCache");
-    const QString storage = DownloadManager::instance()->getAutoStorage();
-    QVERIFY2(storage.endsWith(suffix), qPrintable(storage));
-    const QString root = storage.left(storage.size() - suffix.size());
-
-    // The chosen root is a mounted volume with the most free space (other
-    // processes write meanwhile, hence the slack).
-    qint64 most = -1;
-    qint64 chosen = -1;
-    for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
-        most = qMax(most, volume.bytesFree());
-        if (volume.rootPath() == root) {
-            chosen = qMax(chosen, volume.bytesFree());
-        }
-    }
-    QVERIFY2(chosen >= 0, qPrintable(root));
-    QVERIFY(chosen >= most - 256 * 1024 * 1024);
-    QVERIFY(!DownloadManager::instance()->checkSpaceEnough(storage));
 }
 
 QTEST_GUILESS_MAIN(TestDownloadManager)
