@@ -46,7 +46,7 @@ inline const QString DEFAULT_SPEECH_SERVER_URL = QStringLiteral("http://127.0.0.
 inline const QString LICENSE_SERVER_URL = QStringLiteral("license_server_url");
 inline const QString DEFAULT_LICENSE_SERVER_URL = QStringLiteral("https://license.glimmer-app.org");
 inline const QString VERSION_FILE_URL = QStringLiteral("version_file_url");
-inline const QString DEFAULT_VERSION_FILE_URL = QStringLiteral("https://download.glimmer-app.org/version.json");
+inline const QString DEFAULT_VERSION_FILE_URL = QStringLiteral("https://download.glimmer-app.org/glimmer/upgrade.json");
 inline const QString HOME_PAGE_URL = QStringLiteral("https://www.glimmer-app.org");
 
 // mpv property names

@@ -1,0 +1,232 @@
+#include "appconfig.h"
+#include "checkupdatedialog.h"
+#include "downloadmanager.h"
+#include "globalmanager.h"
+#include "localhttpserver.h"
+#include "testsupport.h"
+
+#include <QDesktopServices>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+
+namespace {
+QByteArray versionFile(const QString& version)
+{
+    QJsonObject win;
+    win.insert(QStringLiteral("version"), version);
+    win.insert(QStringLiteral("size"), QStringLiteral("61MB"));
+    win.insert(QStringLiteral("date"), QStringLiteral("2024.05.06"));
+    win.insert(QStringLiteral("change"), QJsonArray{QStringLiteral("Faster export"), QStringLiteral("Fixed captions")});
+    win.insert(QStringLiteral("url"),
+               QStringLiteral("https://download.glimmer-app.org/glimmer/GlimmerSetup-%1.exe").arg(version));
+    QJsonObject root;
+    root.insert(QStringLiteral("win"), win);
+    return QJsonDocument(root).toJson();
+}
+} // namespace
+
+class TestCheckUpdateDialog : public QObject
+{
+    Q_OBJECT
+public slots:
+    // Stands in for the browser.
+    void openUrlHandle(const QUrl& url) { m_openedUrls.append(url); }
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void versionComparison_data();
+    void versionComparison();
+    void changeListRichText();
+    void dotAnimation();
+    void sameVersionIsLatest();
+    void newerVersionOffered();
+    void savedCopyShownAtConstruction();
+    void menuCheckFailureExplained();
+    void startCheckFailureSilent();
+    void invalidBodyFromMenuExplained();
+
+private:
+    QList<QUrl> m_openedUrls;
+    QByteArray m_body;
+    LocalHttpServer* m_server = nullptr;
+};
+
+void TestCheckUpdateDialog::initTestCase()
+{
+    TestSupport::isolate();
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "openUrlHandle");
+    m_server = new LocalHttpServer([this](const LocalHttpServer::Request&) {
+        LocalHttpServer::Response response;
+        response.body = m_body;
+        return response;
+    });
+    QVERIFY(m_server->listen());
+    GlobalManager::instance()->saveSettings(AppConfig::VERSION_FILE_URL,
+                                            m_server->url(QStringLiteral("/glimmer/upgrade.json")));
+}
+
+void TestCheckUpdateDialog::cleanupTestCase()
+{
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
+    delete m_server;
+}
+
+void TestCheckUpdateDialog::versionComparison_data()
+{
+    QTest::addColumn<QString>("running");
+    QTest::addColumn<QString>("latest");
+    QTest::addColumn<bool>("isLatest");
+    QTest::newRow("equal") << "1.2.0" << "1.2.0" << true;
+    QTest::newRow("numeric segments") << "1.2.0" << "1.10.0" << false;
+    QTest::newRow("running newer") << "1.10.0" << "1.9.9" << true;
+    QTest::newRow("shorter counts as older") << "1.2" << "1.2.0" << false;
+    QTest::newRow("patch newer") << "2.1.0" << "2.1.1" << false;
+    QTest::newRow("nothing published") << "2.1.0" << "" << true;
+}
+
+void TestCheckUpdateDialog::versionComparison()
+{
+    QFETCH(QString, running);
+    QFETCH(QString, latest);
+    QFETCH(bool, isLatest);
+    QCOMPARE(CheckUpdateDialog::isLatestVersion(running, latest), isLatest);
+    QCOMPARE(CheckUpdateDialog::offersUpdate(versionFile(latest), running), !isLatest && !latest.isEmpty());
+}
+
+void TestCheckUpdateDialog::changeListRichText()
+{
+    const QJsonArray two{QStringLiteral("Faster export"), QStringLiteral("Fixed captions")};
+    QCOMPARE(CheckUpdateDialog::changeListHtml(two),
+             QStringLiteral("<p style='line-height:20px'>Faster export<br>Fixed captions<br></p>"));
+    QCOMPARE(CheckUpdateDialog::changeListHtml(QJsonArray()), QStringLiteral("<p style='line-height:20px'></p>"));
+}
+
+void TestCheckUpdateDialog::dotAnimation()
+{
+    CheckUpdateDialog dialog;
+    QCOMPARE(dialog.currentLayer(), CheckUpdateDialog::CheckingLayer);
+    QCOMPARE(dialog.checkingText(), QStringLiteral("Check for update"));
+    QStringList seen;
+    for (int i = 0; i < 5; ++i) {
+        dialog.updateTimer();
+        seen << dialog.checkingText();
+    }
+    QCOMPARE(seen, QStringList({"Check for update.", "Check for update..", "Check for update...",
+                                "Check for update", "Check for update."}));
+}
+
+void TestCheckUpdateDialog::sameVersionIsLatest()
+{
+    m_body = versionFile(QStringLiteral("1.2.0"));
+    CheckUpdateDialog dialog;
+    dialog.setRunningVersion(QStringLiteral("1.2.0"));
+    dialog.show();
+    dialog.checkForUpdate(DownloadManager::TAG_MENU, 0);
+    QCOMPARE(dialog.currentLayer(), CheckUpdateDialog::CheckingLayer);
+    QTRY_COMPARE_WITH_TIMEOUT(dialog.currentLayer(), CheckUpdateDialog::LatestLayer, 10000);
+    QVERIFY(dialog.isLatest());
+    QCOMPARE(dialog.version(), QStringLiteral("1.2.0"));
+}
+
+void TestCheckUpdateDialog::newerVersionOffered()
+{
+    m_body = versionFile(QStringLiteral("1.10.0"));
+    m_openedUrls.clear();
+    CheckUpdateDialog dialog;
+    dialog.setRunningVersion(QStringLiteral("1.2.0"));
+    dialog.show();
+    dialog.checkForUpdate(DownloadManager::TAG_MENU, 0);
+    QTRY_COMPARE_WITH_TIMEOUT(dialog.currentLayer(), CheckUpdateDialog::UpdateLayer, 10000);
+    QVERIFY(!dialog.isLatest());
+    QCOMPARE(dialog.versionText(), QStringLiteral("Version: 1.10.0"));
+    QCOMPARE(dialog.sizeText(), QStringLiteral("Size: 61MB"));
+    QCOMPARE(dialog.dateText(), QStringLiteral("Release date: 2024.05.06"));
+    QCOMPARE(dialog.changeText(),
+             QStringLiteral("<p style='line-height:20px'>Faster export<br>Fixed captions<br></p>"));
+
+    QSignalSpy finished(&dialog, &QDialog::finished);
+    dialog.updateNowButton()->click();
+    QCOMPARE(m_openedUrls.size(), 1);
+    QCOMPARE(m_openedUrls.first(), QUrl(QStringLiteral("https://download.glimmer-app.org/glimmer/GlimmerSetup-1.10.0.exe")));
+    QCOMPARE(finished.count(), 1);
+    QVERIFY(!dialog.isVisible());
+}
+
+void TestCheckUpdateDialog::savedCopyShownAtConstruction()
+{
+    // The previous test's answer was saved; a new dialog starts from it.
+    CheckUpdateDialog dialog;
+    QCOMPARE(dialog.versionText(), QStringLiteral("Version: 1.10.0"));
+    QCOMPARE(dialog.currentLayer(), CheckUpdateDialog::CheckingLayer);
+
+    QFile::remove(DownloadManager::versionFileCachePath());
+    CheckUpdateDialog fresh;
+    QCOMPARE(fresh.versionText(), QStringLiteral("Version: 2.3.0"));
+    QCOMPARE(fresh.sizeText(), QStringLiteral("Size: 50MB"));
+    QCOMPARE(fresh.dateText(), QStringLiteral("Release date: 2023.10.12"));
+}
+
+void TestCheckUpdateDialog::menuCheckFailureExplained()
+{
+    const QString saved = GlobalManager::instance()->readSettings(AppConfig::VERSION_FILE_URL).toString();
+    GlobalManager::instance()->saveSettings(
+        AppConfig::VERSION_FILE_URL,
+        QStringLiteral("http://127.0.0.1:%1/glimmer/upgrade.json").arg(LocalHttpServer::closedPort()));
+    CheckUpdateDialog dialog;
+    dialog.show();
+    dialog.checkForUpdate(DownloadManager::TAG_MENU, 1);
+    QTRY_VERIFY_WITH_TIMEOUT(dialog.checkingText().startsWith(QStringLiteral("Could not check for updates")), 10000);
+    QVERIFY2(dialog.checkingText().contains(QStringLiteral("refused")), qPrintable(dialog.checkingText()));
+    QCOMPARE(dialog.currentLayer(), CheckUpdateDialog::CheckingLayer);
+    QVERIFY(dialog.retryButton()->isVisible());
+    // The animation has stopped: the explanation stays.
+    const QString text = dialog.checkingText();
+    QTest::qWait(1200);
+    QCOMPARE(dialog.checkingText(), text);
+
+    // Trying again against a working server reaches a result.
+    GlobalManager::instance()->saveSettings(AppConfig::VERSION_FILE_URL, saved);
+    m_body = versionFile(QStringLiteral("2.1.0"));
+    dialog.retryButton()->click();
+    QCOMPARE(dialog.checkingText(), QStringLiteral("Check for update"));
+    QTRY_COMPARE_WITH_TIMEOUT(dialog.currentLayer(), CheckUpdateDialog::LatestLayer, 10000);
+}
+
+void TestCheckUpdateDialog::startCheckFailureSilent()
+{
+    // The start-up check's answers reach a dialog fed by the main window.
+    CheckUpdateDialog dialog;
+    dialog.downloadLastVersionStatus(DownloadManager::DownloadError,
+                                     QStringLiteral("https://x.invalid/glimmer/upgrade.json,start"),
+                                     QByteArray("Host not found"));
+    QCOMPARE(dialog.currentLayer(), CheckUpdateDialog::CheckingLayer);
+    QCOMPARE(dialog.checkingText(), QStringLiteral("Check for update"));
+
+    // A dialog that follows its own menu check ignores the start-up answers.
+    m_body = versionFile(QStringLiteral("9.0.0"));
+    CheckUpdateDialog menu;
+    menu.checkForUpdate(DownloadManager::TAG_MENU, 0);
+    menu.downloadLastVersionStatus(DownloadManager::DownloadFinished,
+                                   QStringLiteral("https://x.invalid/glimmer/upgrade.json,start"),
+                                   versionFile(QStringLiteral("1.0.0")));
+    QTRY_COMPARE_WITH_TIMEOUT(menu.currentLayer(), CheckUpdateDialog::UpdateLayer, 10000);
+    QCOMPARE(menu.version(), QStringLiteral("9.0.0"));
+}
+
+void TestCheckUpdateDialog::invalidBodyFromMenuExplained()
+{
+    m_body = QByteArray("<html>captive portal</html>");
+    CheckUpdateDialog dialog;
+    dialog.checkForUpdate(DownloadManager::TAG_MENU, 0);
+    QTRY_VERIFY_WITH_TIMEOUT(dialog.checkingText().contains(QStringLiteral("could not be read")), 10000);
+    QCOMPARE(dialog.currentLayer(), CheckUpdateDialog::CheckingLayer);
+}
+
+QTEST_MAIN(TestCheckUpdateDialog)
+#include "test_checkupdatedialog.moc"

@@ -1,0 +1,248 @@
+#include "appconfig.h"
+#include "downloadmanager.h"
+#include "globalmanager.h"
+#include "localhttpserver.h"
+#include "testsupport.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QtTest>
+
+using State = DownloadManager::DownloadState;
+
+class TestDownloadManager : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void versionFileFetched();
+    void versionFileRetriesThenFails();
+    void progressLinesParsed();
+    void outputHandling();
+    void realDownloadWithProgressAndMd5();
+    void failedDownloadReportsError();
+    void toolLookupPrefersShippedTool();
+};
+
+void TestDownloadManager::initTestCase()
+{
+    TestSupport::isolate();
+}
+
+void TestDownloadManager::versionFileFetched()
+{
+    const QByteArray body = R"({"win":{"version":"1.2.0","size":"51MB","date":"2024.01.02",)"
+                            R"("change":["a"],"url":"https://example.invalid/setup"}})";
+    LocalHttpServer server([&](const LocalHttpServer::Request&) {
+        LocalHttpServer::Response response;
+        response.body = body;
+        return response;
+    });
+    QVERIFY(server.listen());
+    const QString url = server.url(QStringLiteral("/glimmer/upgrade.json"));
+    GlobalManager::instance()->saveSettings(AppConfig::VERSION_FILE_URL, url);
+    QFile::remove(DownloadManager::versionFileCachePath());
+
+    DownloadManager* manager = DownloadManager::instance();
+    QSignalSpy spy(manager, &DownloadManager::downloadLastVersionStateChanged);
+    manager->downloadLastVersion(DownloadManager::TAG_MENU, 3);
+    QTRY_COMPARE_WITH_TIMEOUT(spy.count(), 2, 10000);
+
+    QCOMPARE(spy.at(0).at(0).value<State>(), DownloadManager::DownloadStart);
+    QCOMPARE(spy.at(0).at(1).toString(), url + QStringLiteral(",menu"));
+    QVERIFY(spy.at(0).at(2).toByteArray().isEmpty());
+    QCOMPARE(spy.at(1).at(0).value<State>(), DownloadManager::DownloadFinished);
+    QCOMPARE(DownloadManager::tagOfStateText(spy.at(1).at(1).toString()), DownloadManager::TAG_MENU);
+    QCOMPARE(spy.at(1).at(2).toByteArray(), body);
+    QCOMPARE(server.requestCount(QStringLiteral("/glimmer/upgrade.json")), 1);
+    // The good answer is kept for the update dialog of a later run.
+    QCOMPARE(GlobalManager::readFileContent(DownloadManager::versionFileCachePath()).toUtf8(), body);
+}
+
+void TestDownloadManager::versionFileRetriesThenFails()
+{
+    const QString url = QStringLiteral("http://127.0.0.1:%1/glimmer/upgrade.json").arg(LocalHttpServer::closedPort());
+    GlobalManager::instance()->saveSettings(AppConfig::VERSION_FILE_URL, url);
+
+    DownloadManager* manager = DownloadManager::instance();
+    QSignalSpy spy(manager, &DownloadManager::downloadLastVersionStateChanged);
+    manager->downloadLastVersion(DownloadManager::TAG_START, 2);
+    QTRY_VERIFY_WITH_TIMEOUT(!spy.isEmpty() && spy.last().at(0).value<State>() == DownloadManager::DownloadError,
+                             10000);
+    QTest::qWait(300); // nothing may follow the final error
+
+    int starts = 0;
+    int errors = 0;
+    for (const QList<QVariant>& call : spy) {
+        const State state = call.at(0).value<State>();
+        starts += state == DownloadManager::DownloadStart;
+        errors += state == DownloadManager::DownloadError;
+        QCOMPARE(call.at(1).toString(), url + QStringLiteral(",start"));
+    }
+    QCOMPARE(starts, 3);
+    QCOMPARE(errors, 1);
+    QCOMPARE(spy.count(), 4);
+    QVERIFY(!spy.last().at(2).toByteArray().isEmpty()); // the reason travels with the error
+}
+
+void TestDownloadManager::progressLinesParsed()
+{
+    DownloadManager::DownloadProgress p;
+    QVERIFY(DownloadManager::parseProgress(
+        QStringLiteral("[#a1b2c3 12MiB/80MiB(15%) CN:10 DL:2.1MiB ETA:32s]"), p));
+    QCOMPARE(p.hash, QStringLiteral("#a1b2c3"));
+    QCOMPARE(p.completed, QStringLiteral("12MiB"));
+    QCOMPARE(p.total, QStringLiteral("80MiB"));
+    QCOMPARE(p.percent, QStringLiteral("15%"));
+    QCOMPARE(p.connections, QStringLiteral("10"));
+    QCOMPARE(p.speed, QStringLiteral("2.1MiB"));
+    QCOMPARE(p.eta, QStringLiteral("32s"));
+
+    DownloadManager::DownloadProgress q;
+    QVERIFY(DownloadManager::parseProgress(QStringLiteral("[#a1b2c3 12MiB/80MiB(15%) CN:10 DL:2.1MiB]"), q));
+    QCOMPARE(q.speed, QStringLiteral("2.1MiB"));
+    QCOMPARE(q.percent, QStringLiteral("15%"));
+    QVERIFY(q.eta.isEmpty());
+
+    DownloadManager::DownloadProgress r;
+    QVERIFY(!DownloadManager::parseProgress(
+        QStringLiteral("[#a1b2c3 0B/80MiB(0%) CN:0 DL:0B FileAlloc:#a1b2c3 12MiB/80MiB(15%)]"), r));
+    QVERIFY(!DownloadManager::parseProgress(QStringLiteral("11/21 22:29:16 [NOTICE] Downloading 1 item(s)"), r));
+}
+
+void TestDownloadManager::outputHandling()
+{
+    DownloadManager* manager = DownloadManager::instance();
+    QSignalSpy progress(manager, &DownloadManager::downloadProgress);
+    QSignalSpy state(manager, &DownloadManager::downloadStateChanged);
+
+    manager->toolOutputHandle(QStringLiteral("\n[#a1b2c3 0B/80MiB(0%) CN:0 DL:0B FileAlloc:#a1b2c3 12MiB/80MiB(15%)]\n"));
+    manager->toolOutputHandle(QStringLiteral("Download Results:\ngid   |stat|avg speed  |path/URI\n"));
+    QCOMPARE(progress.count(), 0);
+    QCOMPARE(state.count(), 0);
+
+    // One chunk with a notice line before the progress line.
+    manager->toolOutputHandle(QStringLiteral("\n11/21 22:29:16 [NOTICE] Downloading 1 item(s)\n"
+                                             "[#75964e 52MiB/200MiB(26%) CN:1 DL:16MiB ETA:8s]\n"));
+    QCOMPARE(progress.count(), 1);
+    const auto p = progress.at(0).at(0).value<DownloadManager::DownloadProgress>();
+    QCOMPARE(p.hash, QStringLiteral("#75964e"));
+    QCOMPARE(p.completed, QStringLiteral("52MiB"));
+    QCOMPARE(p.eta, QStringLiteral("8s"));
+
+    // Two progress lines in one chunk, the second without an ETA.
+    manager->toolOutputHandle(QStringLiteral("[#75964e 60MiB/200MiB(30%) CN:1 DL:16MiB ETA:8s]\n"
+                                             "[#75964e 199MiB/200MiB(99%) CN:1 DL:16MiB]\n"));
+    QCOMPARE(progress.count(), 3);
+    const auto second = progress.at(1).at(0).value<DownloadManager::DownloadProgress>();
+    const auto third = progress.at(2).at(0).value<DownloadManager::DownloadProgress>();
+    QCOMPARE(second.percent, QStringLiteral("30%"));
+    QCOMPARE(second.eta, QStringLiteral("8s"));
+    QCOMPARE(third.completed, QStringLiteral("199MiB"));
+    QCOMPARE(third.speed, QStringLiteral("16MiB"));
+    QVERIFY(third.eta.isEmpty());
+
+    // A completion notice that names no file.
+    manager->toolOutputHandle(QStringLiteral("11/21 22:29:16 [NOTICE] Download complete: \n"));
+    QCOMPARE(state.count(), 1);
+    QCOMPARE(state.at(0).at(0).value<State>(), DownloadManager::DownloadError);
+    QVERIFY(state.at(0).at(1).toString().startsWith(QStringLiteral("File cann't find in local:")));
+}
+
+void TestDownloadManager::realDownloadWithProgressAndMd5()
+{
+    // About three seconds of transfer, so the tool prints progress lines.
+    QByteArray payload(3 * 1000 * 1000, Qt::Uninitialized);
+    QRandomGenerator generator(42);
+    generator.fillRange(reinterpret_cast<quint32*>(payload.data()), payload.size() / 4);
+    LocalHttpServer server([&](const LocalHttpServer::Request&) {
+        LocalHttpServer::Response response;
+        response.body = payload;
+        response.contentType = "application/octet-stream";
+        response.chunkSize = 100 * 1000;
+        response.chunkDelayMs = 100;
+        return response;
+    });
+    QVERIFY(server.listen());
+
+    const QString dir = TestSupport::makeWorkDir(QStringLiteral("download"));
+    DownloadManager* manager = DownloadManager::instance();
+    QSignalSpy progress(manager, &DownloadManager::downloadProgress);
+    QSignalSpy state(manager, &DownloadManager::downloadStateChanged);
+    QSignalSpy md5(manager, &DownloadManager::downloadMd5);
+
+    manager->download(server.url(QStringLiteral("/GlimmerSetup.bin")), dir);
+    QVERIFY(manager->isDownloading());
+    QCOMPARE(state.count(), 1);
+    QCOMPARE(state.at(0).at(0).value<State>(), DownloadManager::DownloadStart);
+
+    QTRY_VERIFY_WITH_TIMEOUT(state.count() >= 2, 60000);
+    QCOMPARE(state.at(1).at(0).value<State>(), DownloadManager::DownloadFinished);
+    const QString path = state.at(1).at(1).toString();
+    QCOMPARE(QFileInfo(path).absoluteFilePath(), QDir(dir).absoluteFilePath(QStringLiteral("GlimmerSetup.bin")));
+    QVERIFY(!manager->isDownloading());
+
+    const QString expected = QString::fromLatin1(QCryptographicHash::hash(payload, QCryptographicHash::Md5).toHex());
+    QCOMPARE(md5.count(), 1);
+    QCOMPARE(md5.at(0).at(0).toString(), path);
+    QCOMPARE(md5.at(0).at(1).toString(), expected);
+
+    // Records come from the tool's own output.
+    QVERIFY2(progress.count() >= 1, "the tool printed no progress line");
+    const QRegularExpression percent(QStringLiteral("^\\d{1,3}%$"));
+    for (const QList<QVariant>& call : progress) {
+        const auto p = call.at(0).value<DownloadManager::DownloadProgress>();
+        QVERIFY2(p.hash.startsWith(QLatin1Char('#')), qPrintable(p.hash));
+        QCOMPARE(p.total, QStringLiteral("2.8MiB"));
+        QVERIFY2(percent.match(p.percent).hasMatch(), qPrintable(p.percent));
+        QCOMPARE(p.connections, QStringLiteral("1"));
+        QVERIFY(!p.speed.isEmpty());
+        QVERIFY(!p.eta.contains(QLatin1Char(']')));
+    }
+}
+
+void TestDownloadManager::failedDownloadReportsError()
+{
+    LocalHttpServer server([](const LocalHttpServer::Request&) {
+        LocalHttpServer::Response response;
+        response.status = 404;
+        response.body = "missing";
+        return response;
+    });
+    QVERIFY(server.listen());
+    const QString dir = TestSupport::makeWorkDir(QStringLiteral("download-404"));
+    DownloadManager* manager = DownloadManager::instance();
+    QSignalSpy state(manager, &DownloadManager::downloadStateChanged);
+    manager->download(server.url(QStringLiteral("/nothing.bin")), dir);
+    QTRY_VERIFY_WITH_TIMEOUT(state.count() >= 2, 30000);
+    QCOMPARE(state.at(1).at(0).value<State>(), DownloadManager::DownloadError);
+    QVERIFY2(state.at(1).at(1).toString().contains(QStringLiteral("Resource not found")),
+             qPrintable(state.at(1).at(1).toString()));
+    QVERIFY(!manager->isDownloading());
+    QTest::qWait(200);
+    QCOMPARE(state.count(), 2);
+}
+
+void TestDownloadManager::toolLookupPrefersShippedTool()
+{
+    const QString system = QStandardPaths::findExecutable(DownloadManager::FALLBACK_TOOL_NAME);
+    QVERIFY(!system.isEmpty());
+    DownloadManager* manager = DownloadManager::instance();
+    QCOMPARE(manager->toolPath(), system);
+
+    const QString shipped = QCoreApplication::applicationDirPath() + QLatin1Char('/') + DownloadManager::TOOL_NAME;
+    QFile::remove(shipped);
+    QVERIFY(QFile::link(system, shipped));
+    const QString found = manager->toolPath();
+    QFile::remove(shipped);
+    QCOMPARE(found, shipped);
+}
+
+QTEST_GUILESS_MAIN(TestDownloadManager)
+#include "test_downloadmanager.moc"
