@@ -31,6 +31,7 @@
 
 namespace {
 QString g_logFilePath;
+constexpr int kAudioExtractionLimitMs = 60 * 60 * 1000;
 
 void messageHandler(QtMsgType type, const QMessageLogContext& context, const QString& msg)
 {
@@ -84,6 +85,14 @@ GlobalManager::GlobalManager(QObject* parent)
     });
     connect(m_mp3Thread, &ProcessThread::processError, this, [](const QString&) {
         qDebug() << "m_mp3_thread->processStop";
+    });
+    // ffmpeg that cannot be started at all ends the extraction too: the upload
+    // step then finds no file and reports it, so the user is never left waiting.
+    connect(m_mp3Thread, &ProcessThread::processFailed, this, [this]() {
+        qDebug() << "m_mp3_thread->processFailed";
+        if (!m_isStopConvert) {
+            emitEvent(AppConfig::VIDEO_TO_AUDIO_STOP, 0);
+        }
     });
 }
 
@@ -280,6 +289,10 @@ void GlobalManager::videoToAudio(const QString& videoPath)
                                 QStringLiteral("-ar"), QStringLiteral("16000"), QStringLiteral("-ac"),
                                 QStringLiteral("1"), QStringLiteral("-format"), QStringLiteral("wav"),
                                 QStringLiteral("-y"), output};
+    // A file left by an earlier run must not pass for this run's result when ffmpeg fails.
+    QFile::remove(output);
+    // Hours of sound take longer than the runner's default limit to extract.
+    m_mp3Thread->setWaitFinishTime(kAudioExtractionLimitMs);
     m_mp3Thread->setCommand(program, arguments, QIODevice::ReadWrite);
     m_mp3Thread->start(QThread::InheritPriority);
 }

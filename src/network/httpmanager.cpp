@@ -2,9 +2,11 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "speechservice.h"
 
 #include <QDebug>
 #include <QFile>
+#include <QFileInfo>
 #include <QHttpMultiPart>
 #include <QJsonDocument>
 #include <QNetworkAccessManager>
@@ -45,12 +47,56 @@ QString HttpManager::keyForUrl(const QString& url)
 
 bool HttpManager::isUploading() const
 {
-    return (m_uploadReply && m_uploadReply->isRunning()) || (m_queryReply && m_queryReply->isRunning());
+    return m_waitingForService || (m_uploadReply && m_uploadReply->isRunning())
+           || (m_queryReply && m_queryReply->isRunning());
+}
+
+QString HttpManager::replyMessage(const QByteArray& body, const QString& fallback)
+{
+    const QString message = QJsonDocument::fromJson(body).object().value(QStringLiteral("message")).toString();
+    return message.isEmpty() ? fallback : message;
+}
+
+void HttpManager::emitSpeechError(const QString& message, const QByteArray& body)
+{
+    QJsonObject error;
+    error.insert(QStringLiteral("message"), message);
+    emit requestError(AppConfig::KEY_TASK_ID, error, body);
 }
 
 void HttpManager::loadCaptions(const QString& filePath, const QString& language)
 {
     qDebug() << "start loadCaptions";
+    // An extraction that failed leaves no file, or an empty one.
+    const QFileInfo info(filePath);
+    if (!info.isFile() || !info.isReadable() || info.size() == 0) {
+        qDebug() << "Failed to open file";
+        emitSpeechError(info.isFile() && info.isReadable()
+                            ? tr("The video has no sound that could be extracted.")
+                            : tr("The extracted audio file could not be read."),
+                        QByteArray());
+        return;
+    }
+    // The bundled service may have to be started first; that is asynchronous.
+    const quint64 generation = ++m_generation;
+    m_waitingForService = true;
+    SpeechService::instance()->ensureRunning(speechBaseUrl(), [this, generation, filePath, language](
+                                                                  bool ok, const QString& message) {
+        if (generation != m_generation) {
+            return; // cancelled meanwhile
+        }
+        m_waitingForService = false;
+        if (!ok) {
+            qDebug() << "speech service unavailable:" << message;
+            emitSpeechError(message, QByteArray());
+            return;
+        }
+        submit(filePath, language);
+    });
+}
+
+void HttpManager::submit(const QString& filePath, const QString& language)
+{
     QUrl url(speechBaseUrl() + QStringLiteral("/api/speech/submit"));
     QUrlQuery query;
     query.addQueryItem(QStringLiteral("language"), language);
@@ -61,9 +107,7 @@ void HttpManager::loadCaptions(const QString& filePath, const QString& language)
     if (!file->open(QIODevice::ReadOnly)) {
         qDebug() << "Failed to open file";
         delete file;
-        QJsonObject error;
-        error.insert(QStringLiteral("message"), tr("The extracted audio file could not be read."));
-        emit requestError(AppConfig::TASK_ID, error, QByteArray());
+        emitSpeechError(tr("The extracted audio file could not be read."), QByteArray());
         return;
     }
 
@@ -81,20 +125,19 @@ void HttpManager::loadCaptions(const QString& filePath, const QString& language)
     m_uploadReply = reply;
     connect(reply, &QNetworkReply::finished, this, [this, reply]() {
         const QByteArray body = reply->readAll();
-        if (reply->error() == QNetworkReply::NoError) {
-            const QJsonObject object = QJsonDocument::fromJson(body).object();
+        const QJsonObject object = QJsonDocument::fromJson(body).object();
+        if (reply->error() == QNetworkReply::NoError
+            && object.value(QStringLiteral("state")).toString() != QLatin1String("failed")) {
             const QString taskId = object.value(QStringLiteral("task_id")).toString();
             getCaptionsByTaskId(taskId);
-            qDebug() << "Request successful";
-            qDebug() << "Response: " << body;
-            qDebug() << "TaskId: " << taskId;
+            qDebug().noquote() << "Request successful";
+            qDebug().noquote() << "Response: " << body;
+            qDebug().noquote() << "TaskId: " << taskId;
         } else {
-            qDebug() << "Request failed. Error: " << reply->errorString();
+            qDebug().noquote() << "Request failed. Error: " << reply->errorString();
             // A cancelled upload is the user's own doing: nothing to report.
             if (reply->error() != QNetworkReply::OperationCanceledError) {
-                QJsonObject error;
-                error.insert(QStringLiteral("message"), reply->errorString());
-                emit requestError(AppConfig::TASK_ID, error, body);
+                emitSpeechError(replyMessage(body, reply->errorString()), body);
             }
         }
         reply->deleteLater();
@@ -107,14 +150,24 @@ void HttpManager::getCaptionsByTaskId(const QString& taskId)
     QNetworkRequest request(QUrl(speechBaseUrl() + QStringLiteral("/api/speech/query?task_id=") + taskId));
     QNetworkReply* reply = m_manager->get(request);
     m_queryReply = reply;
+    m_taskId = taskId;
     connect(reply, &QNetworkReply::finished, this, [this, reply]() {
         const QByteArray body = reply->readAll();
-        if (reply->error() == QNetworkReply::NoError) {
-            emit requestFinished(AppConfig::TASK_ID, QJsonObject(), body);
-        } else if (reply->error() != QNetworkReply::OperationCanceledError) {
-            QJsonObject error;
-            error.insert(QStringLiteral("message"), reply->errorString());
-            emit requestError(AppConfig::TASK_ID, error, body);
+        const QJsonObject object = QJsonDocument::fromJson(body).object();
+        const QString state = object.value(QStringLiteral("state")).toString();
+        if (reply->error() == QNetworkReply::OperationCanceledError) {
+            // Cancelled by the user: nothing to report.
+        } else if (reply->error() != QNetworkReply::NoError) {
+            emitSpeechError(replyMessage(body, reply->errorString()), body);
+        } else if (state == QLatin1String("failed") || state == QLatin1String("running")) {
+            // The service answered, but with no captions: the user must learn why.
+            qDebug().noquote() << "recognition failed:" << body;
+            emitSpeechError(replyMessage(body, tr("The speech service could not recognise the audio.")), body);
+        } else {
+            emit requestFinished(AppConfig::KEY_TASK_ID, QJsonObject(), body);
+        }
+        if (m_queryReply == reply) {
+            m_taskId.clear();
         }
         reply->deleteLater();
     });
@@ -122,8 +175,20 @@ void HttpManager::getCaptionsByTaskId(const QString& taskId)
 
 void HttpManager::stopUploadFile()
 {
+    ++m_generation;
+    if (m_waitingForService) {
+        m_waitingForService = false;
+        SpeechService::instance()->cancelPending();
+    }
     if (m_uploadReply) {
         m_uploadReply->abort();
+    }
+    if (m_queryReply && m_queryReply->isRunning() && !m_taskId.isEmpty()) {
+        // Free the service from a recognition nobody waits for.
+        QUrl url(speechBaseUrl() + QStringLiteral("/api/speech/cancel"));
+        url.setQuery(QStringLiteral("task_id=") + m_taskId);
+        QNetworkReply* cancel = m_manager->post(QNetworkRequest(url), QByteArray());
+        connect(cancel, &QNetworkReply::finished, cancel, &QObject::deleteLater);
     }
     if (m_queryReply) {
         m_queryReply->abort();

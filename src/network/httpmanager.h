@@ -21,10 +21,18 @@ public:
     // Base address of the speech service; a setting, local service by default.
     QString speechBaseUrl() const;
 
+    // Speech recognition of an audio file. The result arrives as
+    // requestFinished("task_id", {}, reply) and the bus event "task_id"; every
+    // failure, including a {"state":"failed"} result, as
+    // requestError("task_id", {"message": text for the user}, reply).
     void loadCaptions(const QString& filePath, const QString& language);
     void getCaptionsByTaskId(const QString& taskId);
+    // Cancels the recognition in flight: no signal follows.
     void stopUploadFile();
     bool isUploading() const;
+
+    // The "message" of a JSON error body, or the fallback.
+    static QString replyMessage(const QByteArray& body, const QString& fallback);
 
     void get(const QString& url);
     void getRequest(const QString& url, const QString& key);
@@ -39,10 +47,15 @@ signals:
 private:
     explicit HttpManager(QObject* parent = nullptr);
     static QString keyForUrl(const QString& url);
+    void submit(const QString& filePath, const QString& language);
+    void emitSpeechError(const QString& message, const QByteArray& body);
 
     QNetworkAccessManager* m_manager = nullptr;
     QPointer<QNetworkReply> m_uploadReply;
     QPointer<QNetworkReply> m_queryReply;
+    QString m_taskId;            // task of the query in flight
+    quint64 m_generation = 0;    // bumped by stopUploadFile: late callbacks are dropped
+    bool m_waitingForService = false;
 };
 
 #endif // HTTPMANAGER_H

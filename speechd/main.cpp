@@ -1,0 +1,186 @@
+// glimmer-speechd: a small speech-recognition service on the loopback interface.
+// Upload audio with POST /api/speech/submit?language=CODE (multipart, part "file"),
+// then GET /api/speech/query?task_id=ID, which answers once the task is done.
+
+#include "audiodecoder.h"
+#include "openairecognizer.h"
+#include "speechserver.h"
+#include "sphinxrecognizer.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <cstdio>
+#include <pthread.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+QString envOr(const char* name, const QString& fallback)
+{
+    const QString value = qEnvironmentVariable(name);
+    return value.isEmpty() ? fallback : value;
+}
+
+QString findFfmpeg(const QString& given)
+{
+    if (!given.isEmpty()) {
+        return given;
+    }
+    const QString local = QCoreApplication::applicationDirPath() + QStringLiteral("/ffmpeg");
+    if (QFileInfo(local).isExecutable()) {
+        return local;
+    }
+    const QString onPath = QStandardPaths::findExecutable(QStringLiteral("ffmpeg"));
+    return onPath.isEmpty() ? QStringLiteral("ffmpeg") : onPath;
+}
+
+int fail(const QString& message)
+{
+    std::fprintf(stderr, "glimmer-speechd: %s\n", qPrintable(message));
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // Termination stopSignals are taken by one thread with sigwait, so that the
+    // server shuts down cleanly and removes its temporary files.
+    sigset_t stopSignals;
+    sigemptyset(&stopSignals);
+    sigaddset(&stopSignals, SIGTERM);
+    sigaddset(&stopSignals, SIGINT);
+    sigaddset(&stopSignals, SIGHUP);
+    pthread_sigmask(SIG_BLOCK, &stopSignals, nullptr);
+    std::signal(SIGPIPE, SIG_IGN);
+
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("glimmer-speechd"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Local speech-recognition service for Glimmer."));
+    parser.addHelpOption();
+    const QCommandLineOption hostOption(QStringLiteral("host"), QStringLiteral("Address to listen on."),
+                                        QStringLiteral("address"), QStringLiteral("127.0.0.1"));
+    const QCommandLineOption portOption(QStringLiteral("port"), QStringLiteral("Port to listen on; 0 picks a free one."),
+                                        QStringLiteral("port"), QStringLiteral("17861"));
+    const QCommandLineOption uploadOption(QStringLiteral("max-upload-mb"), QStringLiteral("Largest upload accepted."),
+                                          QStringLiteral("megabytes"), QStringLiteral("512"));
+    const QCommandLineOption queueOption(QStringLiteral("max-queue"),
+                                         QStringLiteral("Tasks uploading, waiting or running at most."),
+                                         QStringLiteral("count"), QStringLiteral("8"));
+    const QCommandLineOption jobsOption(QStringLiteral("jobs"), QStringLiteral("Recognitions running at the same time."),
+                                        QStringLiteral("count"), QStringLiteral("1"));
+    const QCommandLineOption queryTimeoutOption(QStringLiteral("query-timeout"),
+                                                QStringLiteral("Longest wait of a result query."),
+                                                QStringLiteral("seconds"), QStringLiteral("3600"));
+    const QCommandLineOption ttlOption(QStringLiteral("result-ttl"), QStringLiteral("How long finished results are kept."),
+                                       QStringLiteral("seconds"), QStringLiteral("600"));
+    const QCommandLineOption ffmpegOption(QStringLiteral("ffmpeg"), QStringLiteral("The ffmpeg program to decode uploads."),
+                                          QStringLiteral("path"));
+    const QCommandLineOption modelOption(QStringLiteral("model-dir"),
+                                         QStringLiteral("pocketsphinx English model folder (en-us, en-us.lm.bin, cmudict-en-us.dict)."),
+                                         QStringLiteral("folder"));
+    const QCommandLineOption openAiUrlOption(
+        QStringLiteral("openai-url"),
+        QStringLiteral("Forward recognitions to this OpenAI-compatible transcription server "
+                       "(default: $GLIMMER_SPEECHD_OPENAI_URL). Its key is read from $GLIMMER_SPEECHD_OPENAI_KEY."),
+        QStringLiteral("url"));
+    const QCommandLineOption openAiModelOption(QStringLiteral("openai-model"),
+                                               QStringLiteral("Model name sent to that server (default: "
+                                                              "$GLIMMER_SPEECHD_OPENAI_MODEL or whisper-1)."),
+                                               QStringLiteral("name"));
+    const QCommandLineOption parentOption(QStringLiteral("parent-pid"),
+                                          QStringLiteral("Exit when this process, the one that started the service, ends."),
+                                          QStringLiteral("pid"));
+    const QCommandLineOption quietOption(QStringLiteral("quiet"), QStringLiteral("Log nothing but errors."));
+    parser.addOptions({hostOption, portOption, uploadOption, queueOption, jobsOption, queryTimeoutOption, ttlOption,
+                       ffmpegOption, modelOption, openAiUrlOption, openAiModelOption, parentOption, quietOption});
+    parser.process(app);
+
+    auto number = [&parser](const QCommandLineOption& option, long long low, long long high, long long& out) {
+        bool ok = false;
+        out = parser.value(option).toLongLong(&ok);
+        return ok && out >= low && out <= high;
+    };
+    long long port = 0, uploadMb = 0, queue = 0, jobs = 0, queryTimeout = 0, ttl = 0, parentPid = 0;
+    if (!number(portOption, 0, 65535, port) || !number(uploadOption, 1, 1 << 20, uploadMb)
+        || !number(queueOption, 1, 1000, queue) || !number(jobsOption, 1, 64, jobs)
+        || !number(queryTimeoutOption, 1, 86400 * 7, queryTimeout) || !number(ttlOption, 1, 86400 * 7, ttl)) {
+        return fail(QStringLiteral("invalid option value; see --help"));
+    }
+    if (parser.isSet(parentOption) && !number(parentOption, 1, 1LL << 31, parentPid)) {
+        return fail(QStringLiteral("invalid --parent-pid"));
+    }
+
+    QTemporaryDir workDir(QDir::tempPath() + QStringLiteral("/glimmer-speechd-XXXXXX"));
+    if (!workDir.isValid()) {
+        return fail(QStringLiteral("cannot create a temporary folder: ") + workDir.errorString());
+    }
+
+    std::unique_ptr<Recognizer> recognizer;
+    const QString openAiUrl = parser.isSet(openAiUrlOption) ? parser.value(openAiUrlOption)
+                                                            : envOr("GLIMMER_SPEECHD_OPENAI_URL", QString());
+    if (!openAiUrl.isEmpty()) {
+        const QString model = parser.isSet(openAiModelOption)
+                                  ? parser.value(openAiModelOption)
+                                  : envOr("GLIMMER_SPEECHD_OPENAI_MODEL", QStringLiteral("whisper-1"));
+        auto remote = std::make_unique<OpenAiRecognizer>(openAiUrl.toStdString(), model.toStdString(),
+                                                         qEnvironmentVariable("GLIMMER_SPEECHD_OPENAI_KEY").toStdString());
+        if (!remote->isValid()) {
+            return fail(QStringLiteral("not an http(s) address: ") + openAiUrl);
+        }
+        recognizer = std::move(remote);
+    } else {
+        recognizer = std::make_unique<SphinxRecognizer>(parser.value(modelOption).toStdString());
+    }
+
+    ServerOptions options;
+    options.host = parser.value(hostOption).toStdString();
+    options.port = static_cast<int>(port);
+    options.maxUploadBytes = static_cast<size_t>(uploadMb) * 1024u * 1024u;
+    options.maxQueue = static_cast<size_t>(queue);
+    options.jobs = static_cast<int>(jobs);
+    options.queryTimeoutSeconds = static_cast<int>(queryTimeout);
+    options.resultTtlSeconds = static_cast<int>(ttl);
+    options.workDir = workDir.path().toStdString();
+    options.quiet = parser.isSet(quietOption);
+
+    const std::string backend = recognizer->name();
+    SpeechServer server(options, std::move(recognizer),
+                        AudioDecoder(findFfmpeg(parser.value(ffmpegOption)).toStdString()));
+    if (!server.bind()) {
+        return fail(QStringLiteral("cannot listen on %1:%2 (address in use?)").arg(parser.value(hostOption)).arg(port));
+    }
+    // The one line on standard output: where the service listens.
+    std::printf("glimmer-speechd listening on http://%s:%d (%s)\n", options.host.c_str(), server.port(),
+                backend.c_str());
+    std::fflush(stdout);
+
+    std::thread signalWatcher([&server, stopSignals] {
+        int received = 0;
+        sigwait(&stopSignals, &received);
+        server.stop();
+    });
+    signalWatcher.detach();
+
+    if (parentPid > 0) {
+        std::thread parentWatcher([&server, parentPid] {
+            while (getppid() == static_cast<pid_t>(parentPid)) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(500));
+            }
+            server.stop();
+        });
+        parentWatcher.detach();
+    }
+
+    const bool ok = server.run();
+    return ok ? 0 : 1;
+}

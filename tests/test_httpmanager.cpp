@@ -1,0 +1,183 @@
+// The speech client against the real glimmer-speechd: results, failures the user
+// must see, cancelling, and the on-demand start of the bundled service.
+#include "appconfig.h"
+#include "globalmanager.h"
+#include "httpmanager.h"
+#include "speechdprocess.h"
+#include "speechservice.h"
+#include "testsupport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+
+namespace {
+int freePort()
+{
+    QTcpServer probe;
+    probe.listen(QHostAddress::LocalHost);
+    return probe.serverPort();
+}
+} // namespace
+
+class TestHttpManager : public QObject
+{
+    Q_OBJECT
+
+private:
+    SpeechdProcess m_server;
+    QString m_work;
+    QString m_speech;
+
+    static void useService(const QString& url)
+    {
+        GlobalManager::instance()->saveSettings(AppConfig::SPEECH_SERVER_URL, url);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        TestSupport::isolate();
+        m_work = TestSupport::makeWorkDir(QStringLiteral("httpmanager"));
+        m_speech = m_work + QStringLiteral("/speech.mp3");
+        QCOMPARE(TestSupport::ffmpeg({QStringLiteral("-i"),
+                                      QStringLiteral("/usr/share/pocketsphinx/test/data/librivox/"
+                                                     "sense_and_sensibility_01_austen_64kb-0870.wav"),
+                                      QStringLiteral("-vn"), QStringLiteral("-ar"), QStringLiteral("16000"),
+                                      QStringLiteral("-ac"), QStringLiteral("1"), QStringLiteral("-format"),
+                                      QStringLiteral("wav"), m_speech}),
+                 0);
+        QVERIFY(m_server.start());
+        GlobalManager::instance(); // connects the client's replies to the bus
+    }
+
+    void resultArrivesAsTaskIdEvent()
+    {
+        useService(m_server.url() + QStringLiteral("/"));
+        QSignalSpy finished(HttpManager::instance(), &HttpManager::requestFinished);
+        QSignalSpy errors(HttpManager::instance(), &HttpManager::requestError);
+        QSignalSpy events(GlobalManager::instance(), &GlobalManager::globalEvent);
+        HttpManager::instance()->loadCaptions(m_speech, QStringLiteral("en-US"));
+        QVERIFY(HttpManager::instance()->isUploading());
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 60000);
+        QCOMPARE(finished.first().at(0).toString(), AppConfig::KEY_TASK_ID);
+        QVERIFY(errors.isEmpty());
+        QVERIFY(!HttpManager::instance()->isUploading());
+
+        QByteArray body;
+        for (const QList<QVariant>& event : events) {
+            if (event.at(0).toString() == AppConfig::TASK_ID) {
+                body = event.at(1).toByteArray();
+            }
+        }
+        const QJsonObject result = QJsonDocument::fromJson(body).object();
+        QCOMPARE(result.value("state").toString(), QStringLiteral("success"));
+        QVERIFY(!result.value("utterances").toArray().isEmpty());
+    }
+
+    void failuresReachTheUserWithAMessage_data()
+    {
+        QTest::addColumn<QString>("url");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("no model for the language") << QString() << QString() << "fr-FR" << "fr-FR";
+        QTest::newRow("missing audio file") << QString() << "/nonexistent/a.mp3" << "en-US" << "could not be read";
+        QTest::newRow("empty audio file") << QString() << "empty" << "en-US" << "no sound";
+        QTest::newRow("nothing listens") << QStringLiteral("http://127.0.0.1:%1").arg(freePort()) << QString()
+                                         << "en-US" << "refused";
+    }
+
+    void failuresReachTheUserWithAMessage()
+    {
+        QFETCH(QString, url);
+        QFETCH(QString, file);
+        QFETCH(QString, language);
+        QFETCH(QString, expected);
+        useService(url.isEmpty() ? m_server.url() : url);
+        if (file == QLatin1String("empty")) {
+            file = m_work + QStringLiteral("/empty.mp3");
+            QVERIFY(TestSupport::writeFile(file, QByteArray()));
+        } else if (file.isEmpty()) {
+            file = m_speech;
+        }
+        QSignalSpy finished(HttpManager::instance(), &HttpManager::requestFinished);
+        QSignalSpy errors(HttpManager::instance(), &HttpManager::requestError);
+        HttpManager::instance()->loadCaptions(file, language);
+        QTRY_COMPARE_WITH_TIMEOUT(errors.size(), 1, 30000);
+        QCOMPARE(errors.first().at(0).toString(), AppConfig::KEY_TASK_ID);
+        const QString message = errors.first().at(1).toJsonObject().value("message").toString();
+        QVERIFY2(message.contains(expected, Qt::CaseInsensitive), qPrintable(message));
+        QTest::qWait(200);
+        QCOMPARE(errors.size(), 1);
+        QVERIFY(finished.isEmpty());
+    }
+
+    void cancelledRecognitionStaysSilent()
+    {
+        useService(m_server.url());
+        QSignalSpy finished(HttpManager::instance(), &HttpManager::requestFinished);
+        QSignalSpy errors(HttpManager::instance(), &HttpManager::requestError);
+        // Cancel while uploading, and again while the result is awaited.
+        for (int delayMs : {0, 600}) {
+            HttpManager::instance()->loadCaptions(m_speech, QStringLiteral("en-US"));
+            QTest::qWait(delayMs);
+            QVERIFY(HttpManager::instance()->isUploading());
+            HttpManager::instance()->stopUploadFile();
+        }
+        QTest::qWait(4000);
+        QVERIFY(finished.isEmpty());
+        QVERIFY(errors.isEmpty());
+        QVERIFY(!HttpManager::instance()->isUploading());
+    }
+
+    void bundledServiceStartsOnDemandAndStops()
+    {
+        const QString url = QStringLiteral("http://127.0.0.1:%1").arg(freePort());
+        SpeechService* service = SpeechService::instance();
+        service->setManagedBaseUrl(url);
+        service->setProgram(SpeechdProcess::program());
+        useService(url);
+        QVERIFY(!service->isStartedByUs());
+
+        QSignalSpy finished(HttpManager::instance(), &HttpManager::requestFinished);
+        QSignalSpy errors(HttpManager::instance(), &HttpManager::requestError);
+        HttpManager::instance()->loadCaptions(m_speech, QStringLiteral("en-US"));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 60000);
+        QVERIFY(errors.isEmpty());
+        QVERIFY(service->isStartedByUs());
+
+        // A second request reuses the running service.
+        QSignalSpy started(service, &SpeechService::serviceStarted);
+        HttpManager::instance()->loadCaptions(m_speech, QStringLiteral("en-US"));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 2, 60000);
+        QVERIFY(started.isEmpty());
+
+        service->stop();
+        QVERIFY(!service->isStartedByUs());
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(QUrl(url).port()));
+        QVERIFY(!socket.waitForConnected(1000));
+    }
+
+    void missingBundledServiceIsReported()
+    {
+        const QString url = QStringLiteral("http://127.0.0.1:%1").arg(freePort());
+        SpeechService::instance()->setManagedBaseUrl(url);
+        SpeechService::instance()->setProgram(m_work + QStringLiteral("/no-such-speechd"));
+        useService(url);
+        QSignalSpy errors(HttpManager::instance(), &HttpManager::requestError);
+        HttpManager::instance()->loadCaptions(m_speech, QStringLiteral("en-US"));
+        QTRY_COMPARE_WITH_TIMEOUT(errors.size(), 1, 10000);
+        QVERIFY(errors.first().at(1).toJsonObject().value("message").toString().contains(QStringLiteral("missing")));
+    }
+
+    void cleanupTestCase() { m_server.stop(); }
+};
+
+QTEST_GUILESS_MAIN(TestHttpManager)
+#include "test_httpmanager.moc"

@@ -1,0 +1,246 @@
+// Automatic captions end to end: a video with read speech, the app's audio
+// extraction, the bundled glimmer-speechd started on demand, the result query
+// and the caption writer. pocketsphinx_continuous on the same audio is the oracle.
+#include "appconfig.h"
+#include "captionmanager.h"
+#include "globalmanager.h"
+#include "httpmanager.h"
+#include "processthread.h"
+#include "speechdprocess.h"
+#include "speechservice.h"
+#include "testsupport.h"
+
+#include <ass/ass.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTest>
+
+#include <sys/stat.h>
+
+namespace {
+bool g_captionWriterMissing = false;
+
+struct RefWord {
+    QString text;
+    int startMs;
+    int endMs;
+};
+
+bool hasEvent(const QSignalSpy& spy, const QString& name)
+{
+    for (const QList<QVariant>& event : spy) {
+        if (event.at(0).toString() == name) {
+            return true;
+        }
+    }
+    return false;
+}
+} // namespace
+
+// The caption writer is built on another branch; until both are merged this weak
+// fallback keeps the suite linkable, and the real definition replaces it.
+__attribute__((weak)) bool CaptionManager::createCaptions(const QByteArray&, bool)
+{
+    g_captionWriterMissing = true;
+    return false;
+}
+
+class TestSpeechEndToEnd : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString m_work;
+    QString m_video;
+    QByteArray m_reply;
+    QList<RefWord> m_reference;
+
+    // Words with times from pocketsphinx_continuous, fillers and variant marks removed.
+    static QList<RefWord> referenceWords(const QString& wav)
+    {
+        QByteArray output;
+        QProcess process;
+        process.start(QStringLiteral("pocketsphinx_continuous"),
+                      {QStringLiteral("-infile"), wav, QStringLiteral("-time"), QStringLiteral("yes"),
+                       QStringLiteral("-logfn"), QStringLiteral("/dev/null")});
+        process.waitForFinished(120000);
+        output = process.readAllStandardOutput();
+        QList<RefWord> words;
+        for (const QByteArray& line : output.split('\n')) {
+            const QList<QByteArray> fields = line.trimmed().split(' ');
+            bool startOk = false;
+            bool endOk = false;
+            if (fields.size() != 4) {
+                continue;
+            }
+            const double start = fields.at(1).toDouble(&startOk);
+            const double end = fields.at(2).toDouble(&endOk);
+            QString token = QString::fromUtf8(fields.at(0));
+            if (!startOk || !endOk || token.startsWith('<') || token.startsWith('[') || token.startsWith('+')) {
+                continue;
+            }
+            token.remove(QRegularExpression(QStringLiteral("\\(\\d+\\)$")));
+            words.append({token, qRound(start * 1000), qRound(end * 1000)});
+        }
+        return words;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        TestSupport::isolate();
+        m_work = TestSupport::makeWorkDir(QStringLiteral("speech-e2e"));
+        const QString data = QStringLiteral("/usr/share/pocketsphinx/test/data/librivox/sense_and_sensibility_01_austen_64kb-%1.wav");
+        const QString speech = m_work + QStringLiteral("/speech.wav");
+        // Three read sentences with pauses between them.
+        QCOMPARE(TestSupport::ffmpeg({"-i", data.arg("0870"), "-f", "lavfi", "-t", "1.5", "-i",
+                                      "anullsrc=r=16000:cl=mono", "-i", data.arg("0890"), "-i", data.arg("0920"),
+                                      "-filter_complex", "[0:a][1:a][2:a][3:a]concat=n=4:v=0:a=1", speech}),
+                 0);
+        m_video = m_work + QStringLiteral("/read speech.mp4");
+        QCOMPARE(TestSupport::ffmpeg({"-f", "lavfi", "-i", "testsrc2=size=320x240:rate=25", "-i", speech,
+                                      "-shortest", "-c:v", "libx264", "-preset", "ultrafast", "-c:a", "aac",
+                                      "-b:a", "128k", m_video}),
+                 0);
+
+        // The app's own way: extraction, then the bundled service started on demand.
+        GlobalManager* global = GlobalManager::instance();
+        global->setCurrentFile(QFileInfo(m_video));
+        CaptionManager::instance()->setCurrentLangItem(7);
+        QCOMPARE(CaptionManager::instance()->getCurrentLangItem()->code, QStringLiteral("en-US"));
+        QTcpServer portProbe;
+        portProbe.listen(QHostAddress::LocalHost);
+        const QString url = QStringLiteral("http://127.0.0.1:%1").arg(portProbe.serverPort());
+        portProbe.close();
+        SpeechService::instance()->setManagedBaseUrl(url);
+        SpeechService::instance()->setProgram(SpeechdProcess::program());
+        global->saveSettings(AppConfig::SPEECH_SERVER_URL, url);
+
+        QSignalSpy events(global, &GlobalManager::globalEvent);
+        global->videoToAudio(m_video);
+        QTRY_VERIFY_WITH_TIMEOUT(hasEvent(events, AppConfig::VIDEO_TO_AUDIO_STOP), 60000);
+        QVERIFY(hasEvent(events, AppConfig::VIDEO_TO_AUDIO_START));
+        const QString audio = CaptionManager::instance()->getAudioFilePath();
+        QVERIFY(audio.endsWith(QStringLiteral("/read speech-en-US.mp3")));
+        QFile audioFile(audio);
+        QVERIFY(audioFile.open(QIODevice::ReadOnly));
+        QCOMPARE(audioFile.read(3), QByteArray("ID3")); // "-format wav" leaves it an MP3
+
+        events.clear();
+        HttpManager::instance()->loadCaptions(audio, CaptionManager::instance()->getCurrentLangItem()->code);
+        QTRY_VERIFY_WITH_TIMEOUT(hasEvent(events, AppConfig::TASK_ID), 120000);
+        for (const QList<QVariant>& event : events) {
+            if (event.at(0).toString() == AppConfig::TASK_ID) {
+                m_reply = event.at(1).toByteArray();
+            }
+        }
+
+        // The oracle decodes the very same MP3.
+        const QString wav = m_work + QStringLiteral("/reference.wav");
+        QCOMPARE(TestSupport::ffmpeg({"-i", audio, "-fflags", "+bitexact", "-flags:a", "+bitexact", "-map_metadata",
+                                      "-1", "-ac", "1", "-ar", "16000", "-c:a", "pcm_s16le", wav}),
+                 0);
+        m_reference = referenceWords(wav);
+        QVERIFY(m_reference.size() >= 20);
+    }
+
+    void captionsMatchTheReferenceDecoder()
+    {
+        const QJsonObject result = QJsonDocument::fromJson(m_reply).object();
+        QCOMPARE(result.value("state").toString(), QStringLiteral("success"));
+        const QJsonArray utterances = result.value("utterances").toArray();
+        QVERIFY(utterances.size() >= 3);
+
+        int word = 0;
+        int previousEnd = -1;
+        for (const QJsonValue& value : utterances) {
+            const QJsonObject utterance = value.toObject();
+            const int start = utterance.value("start_time").toInt();
+            const int end = utterance.value("end_time").toInt();
+            const QStringList words = utterance.value("text").toString().split(QLatin1Char(' '));
+            QVERIFY(start < end);
+            QVERIFY(start >= previousEnd);
+            QVERIFY(word + words.size() <= m_reference.size());
+            for (int i = 0; i < words.size(); ++i) {
+                QCOMPARE(words.at(i), m_reference.at(word + i).text);
+            }
+            QVERIFY2(qAbs(start - m_reference.at(word).startMs) <= 50, qPrintable(QString::number(start)));
+            QVERIFY2(qAbs(end - m_reference.at(word + words.size() - 1).endMs) <= 50, qPrintable(QString::number(end)));
+            word += words.size();
+            previousEnd = end;
+        }
+        QCOMPARE(word, m_reference.size());
+    }
+
+    void workingAssFileLoadsInLibass()
+    {
+        CaptionManager* captions = CaptionManager::instance();
+        QSignalSpy events(GlobalManager::instance(), &GlobalManager::globalEvent);
+        captions->createCaptions(m_reply, true);
+        if (g_captionWriterMissing) {
+            QSKIP("The caption writer is not part of this build yet.");
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(hasEvent(events, AppConfig::CREATE_CAPTION_COMPLETE), 5000);
+        const QJsonArray utterances = QJsonDocument::fromJson(m_reply).object().value("utterances").toArray();
+        QCOMPARE(captions->getCaptions().size(), utterances.size());
+
+        ASS_Library* library = ass_library_init();
+        const QByteArray path = captions->getTempAssFilePath().toUtf8();
+        ASS_Track* track = ass_read_file(library, const_cast<char*>(path.constData()), const_cast<char*>("UTF-8"));
+        QVERIFY(track);
+        QCOMPARE(track->n_events, utterances.size());
+        for (int i = 0; i < track->n_events; ++i) {
+            const QJsonObject utterance = utterances.at(i).toObject();
+            QCOMPARE(QString::fromUtf8(track->events[i].Text), utterance.value("text").toString());
+            QCOMPARE(captions->getCaptions().at(i)->text, utterance.value("text").toString());
+            QVERIFY(qAbs(track->events[i].Start - utterance.value("start_time").toInt()) <= 50);
+            QVERIFY(qAbs(track->events[i].Start + track->events[i].Duration - utterance.value("end_time").toInt()) <= 50);
+        }
+        ass_free_track(track);
+        ass_library_done(library);
+    }
+
+    void cancelledExtractionStartsNoUpload()
+    {
+        GlobalManager* global = GlobalManager::instance();
+        // Nothing runs: returns at once and leaves the flag alone.
+        QElapsedTimer clock;
+        clock.start();
+        global->stopConvert();
+        QVERIFY(clock.elapsed() < 100);
+        QVERIFY(!global->isStopConvert());
+
+        // ffmpeg waits on a pipe nobody writes to until it is stopped.
+        const QString fifo = m_work + QStringLiteral("/never.mp4");
+        QCOMPARE(mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
+        QSignalSpy events(global, &GlobalManager::globalEvent);
+        global->videoToAudio(fifo);
+        QTRY_VERIFY_WITH_TIMEOUT(hasEvent(events, AppConfig::VIDEO_TO_AUDIO_START), 10000);
+        global->stopConvert();
+        QVERIFY(global->isStopConvert());
+        QTRY_VERIFY_WITH_TIMEOUT(!global->audioThread()->isRunning(), 10000);
+        QTest::qWait(300);
+        QVERIFY(!hasEvent(events, AppConfig::VIDEO_TO_AUDIO_STOP));
+    }
+
+    void missingFfmpegStillEndsTheExtraction()
+    {
+        // With no ffmpeg the extraction ends at once and the upload reports the missing audio.
+        qputenv("PATH", "/nonexistent");
+        QSignalSpy events(GlobalManager::instance(), &GlobalManager::globalEvent);
+        GlobalManager::instance()->videoToAudio(m_video);
+        QTRY_VERIFY_WITH_TIMEOUT(hasEvent(events, AppConfig::VIDEO_TO_AUDIO_STOP), 10000);
+        QVERIFY(!QFile::exists(CaptionManager::instance()->getAudioFilePath()));
+    }
+
+    void cleanupTestCase() { SpeechService::instance()->stop(); }
+};
+
+QTEST_GUILESS_MAIN(TestSpeechEndToEnd)
+#include "test_speech_e2e.moc"
