@@ -1,5 +1,7 @@
 #include "appconfig.h"
+#include "downloadmanager.h"
 #include "globalmanager.h"
+#include "licensemanager.h"
 #include "mainwindow.h"
 #include "screenmanager.h"
 #include "translatemanager.h"
@@ -61,6 +63,8 @@ int main(int argc, char* argv[])
     auto* window = new MainWindow(nullptr);
     window->show();
     window->resize(AppConfig::rate(QSize(1100, 741)));
+    DownloadManager::instance()->downloadLastVersion(DownloadManager::TAG_START, 5);
+    LicenseManager::instance()->restore();
     window->startUp(QCoreApplication::arguments().mid(1));
 
     QObject::connect(app, &QCoreApplication::aboutToQuit, [&guard]() { guard.detach(); });

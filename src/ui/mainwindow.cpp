@@ -475,13 +475,14 @@ void MainWindow::downloadLastVersionStatus(DownloadManager::DownloadState state,
 {
     // The silent check at start-up offers an update only when there is one;
     // a check from the menu has its own dialog.
-    if (text != DownloadManager::TAG_START || state != DownloadManager::DownloadFinished) {
+    if (DownloadManager::tagOfStateText(text) != DownloadManager::TAG_START
+        || state != DownloadManager::DownloadFinished) {
         return;
     }
     if (CheckUpdateDialog::offersUpdate(data, GlobalManager::instance()->getAppVersion())) {
         auto* dialog = new CheckUpdateDialog(this);
         dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->updateInfo(data);
+        dialog->downloadLastVersionStatus(state, text, data);
         dialog->show();
     }
 }
