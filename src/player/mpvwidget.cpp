@@ -312,24 +312,20 @@ void MpvWidget::mpvEventHandle(mpv_event* event)
             } else {
                 captureSeekReplied = true;
             }
-        } else if (event->reply_userdata == RequestLoadFile && event->error < 0) {
-            qWarning() << "loadfile failed:" << filePath << mpv_error_string(event->error);
-            loadRestartPending = false;
-            const QString failed = filePath;
-            playStatus = Stop;
-            filePath.clear();
-            emit loadFailed(failed, QString::fromUtf8(mpv_error_string(event->error)));
+        } else if (event->reply_userdata == RequestLoadFile) {
+            ++loadsAnswered;
+            if (event->error < 0 && loadActive && loadsAnswered == loadsIssued) {
+                failLoad(QString::fromUtf8(mpv_error_string(event->error)));
+            }
         }
         break;
     case MPV_EVENT_END_FILE: {
         const auto* endFile = static_cast<mpv_event_end_file*>(event->data);
-        if (endFile && endFile->reason == MPV_END_FILE_REASON_ERROR && !filePath.isEmpty()) {
-            qWarning() << "file ended with error:" << filePath << mpv_error_string(endFile->error);
-            loadRestartPending = false;
-            const QString failed = filePath;
-            playStatus = Stop;
-            filePath.clear();
-            emit loadFailed(failed, QString::fromUtf8(mpv_error_string(endFile->error)));
+        // Events arrive in order: while a newer load is still unanswered, an
+        // error ends the file it replaced, not the current one.
+        if (endFile && endFile->reason == MPV_END_FILE_REASON_ERROR && loadActive
+            && loadsAnswered == loadsIssued) {
+            failLoad(QString::fromUtf8(mpv_error_string(endFile->error)));
         }
         break;
     }
@@ -392,6 +388,8 @@ void MpvWidget::issueLoad()
     const QByteArray path = filePath.toUtf8();
     const char* args[] = {"loadfile", path.constData(), nullptr};
     loadRestartPending = true;
+    loadActive = true;
+    ++loadsIssued;
     captureSeekPending = false;
     captureSeekReplied = false;
     mpv_command_async(mpv, RequestLoadFile, args);
@@ -441,8 +439,20 @@ void MpvWidget::stop()
     }
     loadPending = false;
     loadRestartPending = false;
+    loadActive = false;
     filePath.clear();
     playStatus = Stop;
+}
+
+void MpvWidget::failLoad(const QString& reason)
+{
+    qWarning() << "file could not be played:" << filePath << reason;
+    const QString failed = filePath;
+    loadActive = false;
+    loadRestartPending = false;
+    playStatus = Stop;
+    filePath.clear();
+    emit loadFailed(failed, reason);
 }
 
 void MpvWidget::seekToNextFrame()

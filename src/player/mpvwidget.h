@@ -126,6 +126,7 @@ private:
     void render();
     void freeRenderContext();
     void issueLoad();
+    void failLoad(const QString& reason);
     int runCommand(const QVariantList& args);
 
     mpv_handle* mpv = nullptr;
@@ -144,6 +145,9 @@ private:
     // that mpv's video output finds a context when it opens.
     bool loadPending = false;
     bool loadRestartPending = false;
+    bool loadActive = false;
+    quint64 loadsIssued = 0;
+    quint64 loadsAnswered = 0;
     bool captureSeekPending = false;
     bool captureSeekReplied = false;
     bool eofReached = false;
