@@ -1,9 +1,11 @@
 // The caption overlay over the video, the caption style toolbar, and adding a
 // caption from the player panel.
+#include "appconfig.h"
 #include "captioninfo.h"
 #include "captionmanager.h"
 #include "captionoverlay.h"
 #include "captionstylebar.h"
+#include "globalmanager.h"
 #include "mpvwidget.h"
 #include "testsupport.h"
 #include "videoplaywidget.h"
@@ -39,6 +41,36 @@ CaptionInfo* captionWithText(const QString& text)
     return nullptr;
 }
 
+// Bounding box of the pixels that differ clearly between two frames.
+QRect changedBox(const QImage& a, const QImage& b)
+{
+    const QImage x = a.convertToFormat(QImage::Format_RGB32);
+    const QImage y = b.convertToFormat(QImage::Format_RGB32);
+    QRect box;
+    for (int row = 0; row < x.height(); ++row) {
+        const auto* p = reinterpret_cast<const QRgb*>(x.constScanLine(row));
+        const auto* q = reinterpret_cast<const QRgb*>(y.constScanLine(row));
+        for (int col = 0; col < x.width(); ++col) {
+            if (qAbs(qRed(p[col]) - qRed(q[col])) + qAbs(qGreen(p[col]) - qGreen(q[col]))
+                    + qAbs(qBlue(p[col]) - qBlue(q[col]))
+                > 24) {
+                box |= QRect(col, row, 1, 1);
+            }
+        }
+    }
+    return box;
+}
+
+// The overlay's caption box in the coordinates of the video frame.
+QRectF overlayBoxInFrame(const CaptionOverlay* overlay, const QSize& frame)
+{
+    const QRect video = overlay->videoRect();
+    const QRect box = overlay->captionRect();
+    const double scale = frame.width() / double(video.width());
+    return QRectF((box.x() - video.x()) * scale, (box.y() - video.y()) * scale, box.width() * scale,
+                  box.height() * scale);
+}
+
 } // namespace
 
 class TestCaptionOverlay : public QObject
@@ -56,6 +88,7 @@ private slots:
     void editTextInPlace();
     void dragMovesCaption();
     void panelAddsCaptionAtCurrentTime();
+    void editsReachTheBurntInFrame();
 };
 
 void TestCaptionOverlay::initTestCase()
@@ -100,6 +133,7 @@ void TestCaptionOverlay::geometryFollowsScriptSpaceAndLetterbox()
     CaptionEdit* edit = CaptionStyleBar::ensureEdit(info);
     edit->x = 192;
     edit->y = 268;
+    edit->isChange = true;
     overlay.setCaption(info);
     QRect box = overlay.captionRect();
     QVERIFY(qAbs(box.center().x() - 320) <= 1);
@@ -269,6 +303,7 @@ void TestCaptionOverlay::dragMovesCaption()
     CaptionEdit* edit = CaptionStyleBar::ensureEdit(info);
     edit->x = 192;
     edit->y = 268;
+    edit->isChange = true;
     overlay.setCaption(info);
     bar.setCaption(info);
     QSignalSpy edits(&bar, &CaptionStyleBar::captionEditSignal);
@@ -345,6 +380,69 @@ void TestCaptionOverlay::panelAddsCaptionAtCurrentTime()
     QVERIFY(panel.getCaptionOverlay()->isEditing());
     QCOMPARE(panel.getCaptionOverlay()->caption(), added);
     QCOMPARE(panel.getMpvWidget()->getPlayStatus(), MpvWidget::Pause);
+}
+
+void TestCaptionOverlay::editsReachTheBurntInFrame()
+{
+    const QString dir = TestSupport::makeWorkDir(QStringLiteral("captionoverlay-frame"));
+    const QString video = dir + QStringLiteral("/hd.mp4");
+    QVERIFY(TestSupport::makeVideo(video, 4.0));
+    CaptionManager::instance()->createCaptions(QByteArrayLiteral(
+        "{\"state\":\"success\",\"utterances\":[{\"start_time\":0,\"end_time\":4000,\"text\":\"MOVE ME\"}]}"),
+        false);
+    const QString assPath = CaptionManager::instance()->getTempAssFilePath();
+    QVERIFY(QFile::exists(assPath));
+    CaptionInfo* info = captionWithText(QStringLiteral("MOVE ME"));
+    QVERIFY(info);
+
+    VideoPlayWidget panel;
+    panel.getMpvWidget()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
+    panel.resize(960, 720);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    // The main window's part: apply each edit, reload the rewritten file.
+    connect(&panel, &VideoPlayWidget::captionEditSignal, &panel,
+            [](CaptionInfo* edit, bool isAll) { CaptionManager::instance()->changeCaptionNew(edit, isAll); });
+    connect(GlobalManager::instance(), &GlobalManager::globalEvent, &panel, [&panel](QString name, QVariant value) {
+        if (name == AppConfig::UPDATE_CAPTION) {
+            panel.loadSubTitleFile(value.toString());
+        }
+    });
+    int subtitleLoads = 0;
+    connect(&panel, &VideoPlayWidget::captureEventSignal, &panel, [&subtitleLoads](int type, QVariant) {
+        subtitleLoads += type == 14 ? 1 : 0;
+    });
+    QList<MpvWidget::RestartKind> restarts;
+    connect(panel.getMpvWidget(), &MpvWidget::playbackRestarted, &panel,
+            [&restarts](MpvWidget::RestartKind kind) { restarts.append(kind); });
+
+    QVERIFY(panel.openFile(video));
+    QTRY_VERIFY_WITH_TIMEOUT(restarts.contains(MpvWidget::RestartAfterLoad), 20000);
+    panel.pause();
+    panel.getMpvWidget()->seekToPositionForCapture(2.0);
+    QTRY_VERIFY_WITH_TIMEOUT(restarts.contains(MpvWidget::RestartAfterCaptureSeek), 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(panel.getCaptionOverlay()->caption(), info, 3000);
+    const QImage plain = panel.getMpvWidget()->takeSnapshot().toImage();
+    QCOMPARE(plain.size(), QSize(1280, 720));
+
+    panel.loadSubTitleFile(assPath);
+    QTRY_COMPARE_WITH_TIMEOUT(subtitleLoads, 1, 5000);
+    const QRect burnt = changedBox(plain, panel.getMpvWidget()->takeSnapshot().toImage());
+    QVERIFY(!burnt.isEmpty());
+    QRectF framed = overlayBoxInFrame(panel.getCaptionOverlay(), plain.size());
+    // The frame drawn over the video sits where mpv burns the caption in.
+    QVERIFY2(qAbs(burnt.center().x() - framed.center().x()) < 30 && qAbs(burnt.bottom() - framed.bottom()) < 40,
+             qPrintable(QStringLiteral("burnt %1,%2 framed %3,%4").arg(burnt.center().x()).arg(burnt.bottom())
+                            .arg(framed.center().x()).arg(framed.bottom())));
+
+    // Moving it with the toolbar rewrites the file; the reloaded frame shows it there.
+    panel.getCaptionStyleBar()->setPosition(info, 96, 144);
+    QTRY_COMPARE_WITH_TIMEOUT(subtitleLoads, 2, 5000);
+    const QRect moved = changedBox(plain, panel.getMpvWidget()->takeSnapshot().toImage());
+    QVERIFY2(qAbs(moved.center().x() - 320) < 30 && qAbs(moved.bottom() - 360) < 40,
+             qPrintable(QStringLiteral("moved %1,%2").arg(moved.center().x()).arg(moved.bottom())));
+    framed = overlayBoxInFrame(panel.getCaptionOverlay(), plain.size());
+    QVERIFY(qAbs(moved.center().x() - framed.center().x()) < 30 && qAbs(moved.bottom() - framed.bottom()) < 40);
 }
 
 QTEST_MAIN(TestCaptionOverlay)

@@ -128,7 +128,13 @@ QRect CaptionOverlay::captionRect() const
     int anchorX = kScriptWidth / 2;
     int anchorY = kScriptHeight - kDefaultMarginV;
     int fontSize = CaptionEdit().fontSize;
-    if (const CaptionEdit* edit = m_caption->captionEdit) {
+    // An edit record places the caption only once it has been written with
+    // its override block; before that the style's bottom margin does.
+    const CaptionEdit* edit = m_caption->captionEdit;
+    const bool placedByEdit = edit
+                              && (edit->isChange || !m_caption->editMarks.isEmpty()
+                                  || m_caption->style == QLatin1String("StyleAll"));
+    if (placedByEdit) {
         anchorX = edit->x;
         anchorY = edit->y;
         fontSize = edit->fontSize;
