@@ -1,0 +1,449 @@
+// The caption overlay over the video, the caption style toolbar, and adding a
+// caption from the player panel.
+#include "appconfig.h"
+#include "captioninfo.h"
+#include "captionmanager.h"
+#include "captionoverlay.h"
+#include "captionstylebar.h"
+#include "globalmanager.h"
+#include "mpvwidget.h"
+#include "testsupport.h"
+#include "videoplaywidget.h"
+
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+void makeCaptions()
+{
+    CaptionManager::instance()->createCaptions(QByteArrayLiteral(
+        "{\"state\":\"success\",\"utterances\":["
+        "{\"start_time\":1000,\"end_time\":3000,\"text\":\"one\"},"
+        "{\"start_time\":5000,\"end_time\":8000,\"text\":\"two\"},"
+        "{\"start_time\":8000,\"end_time\":9000,\"text\":\"three\"}]}"),
+        false);
+}
+
+CaptionInfo* captionWithText(const QString& text)
+{
+    for (CaptionInfo* info : CaptionManager::instance()->getCaptions()) {
+        if (info->text == text) {
+            return info;
+        }
+    }
+    return nullptr;
+}
+
+// Bounding box of the pixels that differ clearly between two frames.
+QRect changedBox(const QImage& a, const QImage& b)
+{
+    const QImage x = a.convertToFormat(QImage::Format_RGB32);
+    const QImage y = b.convertToFormat(QImage::Format_RGB32);
+    QRect box;
+    for (int row = 0; row < x.height(); ++row) {
+        const auto* p = reinterpret_cast<const QRgb*>(x.constScanLine(row));
+        const auto* q = reinterpret_cast<const QRgb*>(y.constScanLine(row));
+        for (int col = 0; col < x.width(); ++col) {
+            if (qAbs(qRed(p[col]) - qRed(q[col])) + qAbs(qGreen(p[col]) - qGreen(q[col]))
+                    + qAbs(qBlue(p[col]) - qBlue(q[col]))
+                > 24) {
+                box |= QRect(col, row, 1, 1);
+            }
+        }
+    }
+    return box;
+}
+
+// The overlay's caption box in the coordinates of the video frame.
+QRectF overlayBoxInFrame(const CaptionOverlay* overlay, const QSize& frame)
+{
+    const QRect video = overlay->videoRect();
+    const QRect box = overlay->captionRect();
+    const double scale = frame.width() / double(video.width());
+    return QRectF((box.x() - video.x()) * scale, (box.y() - video.y()) * scale, box.width() * scale,
+                  box.height() * scale);
+}
+
+} // namespace
+
+class TestCaptionOverlay : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void captionAtTime();
+    void geometryFollowsScriptSpaceAndLetterbox();
+    void styleBarSendsOneEditAfterSteps();
+    void styleBarApplyToAllAndCaptionSwitch();
+    void styleBarCaptureTickAndDisabledState();
+    void editTextInPlace();
+    void dragMovesCaption();
+    void panelAddsCaptionAtCurrentTime();
+    void editsReachTheBurntInFrame();
+};
+
+void TestCaptionOverlay::initTestCase()
+{
+    TestSupport::isolate();
+}
+
+void TestCaptionOverlay::init()
+{
+    makeCaptions();
+    QCOMPARE(CaptionManager::instance()->getCaptions().size(), 3);
+}
+
+void TestCaptionOverlay::captionAtTime()
+{
+    QCOMPARE(CaptionOverlay::captionAtTime(0.5), nullptr);
+    QCOMPARE(CaptionOverlay::captionAtTime(1.0), captionWithText(QStringLiteral("one")));
+    QCOMPARE(CaptionOverlay::captionAtTime(3.0), captionWithText(QStringLiteral("one")));
+    QCOMPARE(CaptionOverlay::captionAtTime(4.0), nullptr);
+    QCOMPARE(CaptionOverlay::captionAtTime(6.5), captionWithText(QStringLiteral("two")));
+    QCOMPARE(CaptionOverlay::captionAtTime(8.5), captionWithText(QStringLiteral("three")));
+    QCOMPARE(CaptionOverlay::captionAtTime(-1.0), nullptr);
+    QCOMPARE(CaptionOverlay::captionAtTime(20.0), nullptr);
+}
+
+void TestCaptionOverlay::geometryFollowsScriptSpaceAndLetterbox()
+{
+    CaptionOverlay overlay;
+    overlay.resize(640, 360);
+    overlay.setVideoSize(QSize(1280, 720));
+    QCOMPARE(overlay.videoRect(), QRect(0, 0, 640, 360));
+    QCOMPARE(overlay.scriptToWidget(192, 268), QPoint(320, 335));
+    QCOMPARE(overlay.widgetToScript(QPoint(320, 335)), QPoint(192, 268));
+    QCOMPARE(overlay.widgetToScript(QPoint(-50, 900)), QPoint(0, 288));
+
+    // A 4:3 surface letterboxes the 16:9 video.
+    overlay.resize(640, 480);
+    QCOMPARE(overlay.videoRect(), QRect(0, 60, 640, 360));
+    QCOMPARE(overlay.scriptToWidget(0, 0), QPoint(0, 60));
+
+    CaptionInfo* info = captionWithText(QStringLiteral("one"));
+    CaptionEdit* edit = CaptionStyleBar::ensureEdit(info);
+    edit->x = 192;
+    edit->y = 268;
+    edit->isChange = true;
+    overlay.setCaption(info);
+    QRect box = overlay.captionRect();
+    QVERIFY(qAbs(box.center().x() - 320) <= 1);
+    QVERIFY(qAbs(box.bottom() - (60 + 335 + 4)) <= 1);
+    QVERIFY(box.height() > 10);
+
+    edit->x = 96;
+    edit->y = 144;
+    box = overlay.captionRect();
+    QVERIFY(qAbs(box.center().x() - 160) <= 1);
+    QVERIFY(qAbs(box.bottom() - (60 + 180 + 4)) <= 1);
+
+    // A bigger font gives a bigger box.
+    const int height = box.height();
+    edit->fontSize *= 2;
+    QVERIFY(overlay.captionRect().height() > height);
+    overlay.setCaption(nullptr);
+    QVERIFY(overlay.captionRect().isNull());
+}
+
+void TestCaptionOverlay::styleBarSendsOneEditAfterSteps()
+{
+    CaptionStyleBar bar;
+    CaptionInfo* info = captionWithText(QStringLiteral("two"));
+    const CaptionEdit before = CaptionStyleBar::currentValues(info);
+    bar.setCaption(info);
+    QCOMPARE(bar.fontSizeBox()->value(), before.fontSize);
+    QCOMPARE(bar.xBox()->value(), before.x);
+    QCOMPARE(bar.yBox()->value(), before.y);
+    QCOMPARE(bar.xBox()->maximum(), 384);
+    QCOMPARE(bar.yBox()->maximum(), 288);
+
+    QSignalSpy edits(&bar, &CaptionStyleBar::captionEditSignal);
+    bar.fontSizeBox()->stepUp();
+    bar.fontSizeBox()->stepUp();
+    bar.fontSizeBox()->stepUp();
+    bar.borderBox()->setValue(3);
+    bar.shadowBox()->setValue(2);
+    QCOMPARE(edits.count(), 0);
+    QVERIFY(bar.hasPendingEdit());
+    QVERIFY(edits.wait(2000));
+    QTest::qWait(400);
+    QCOMPARE(edits.count(), 1);
+    QCOMPARE(edits.at(0).at(0).value<CaptionInfo*>(), info);
+    QCOMPARE(edits.at(0).at(1).toBool(), false);
+    QVERIFY(info->captionEdit);
+    QCOMPARE(info->captionEdit->fontSize, before.fontSize + 3);
+    QCOMPARE(info->captionEdit->border, 3);
+    QCOMPARE(info->captionEdit->shadow, 2);
+    QCOMPARE(info->captionEdit->x, before.x);
+    QCOMPARE(info->captionEdit->text, QStringLiteral("two"));
+    QVERIFY(info->captionEdit->isChange);
+    QVERIFY(info->isStyleChanged);
+
+    // A refresh for the same caption shows the record, now edited.
+    bar.setCaption(info);
+    QCOMPARE(bar.fontSizeBox()->value(), before.fontSize + 3);
+}
+
+void TestCaptionOverlay::styleBarApplyToAllAndCaptionSwitch()
+{
+    CaptionStyleBar bar;
+    CaptionInfo* one = captionWithText(QStringLiteral("one"));
+    CaptionInfo* three = captionWithText(QStringLiteral("three"));
+    bar.setCaption(one);
+    bar.applyAllBox()->setChecked(true);
+    QSignalSpy edits(&bar, &CaptionStyleBar::captionEditSignal);
+
+    bar.xBox()->setValue(100);
+    // Moving to another caption sends the waiting change for the first one at once.
+    bar.setCaption(three);
+    QCOMPARE(edits.count(), 1);
+    QCOMPARE(edits.at(0).at(0).value<CaptionInfo*>(), one);
+    QCOMPARE(edits.at(0).at(1).toBool(), true);
+    QCOMPARE(one->captionEdit->x, 100);
+    QVERIFY(one->isPositionChanged);
+    QCOMPARE(bar.xBox()->value(), CaptionStyleBar::currentValues(three).x);
+    QTest::qWait(500);
+    QCOMPARE(edits.count(), 1);
+
+    // A caption dropped from the store while its change waited gets nothing.
+    bar.yBox()->setValue(50);
+    CaptionManager::instance()->clearCaptions();
+    bar.commitPending();
+    QCOMPARE(edits.count(), 1);
+}
+
+void TestCaptionOverlay::styleBarCaptureTickAndDisabledState()
+{
+    CaptionStyleBar bar;
+    QVERIFY(!bar.fontSizeBox()->isEnabled());
+    QVERIFY(!bar.applyAllBox()->isEnabled());
+    QVERIFY(!bar.insertButton()->isEnabled());
+    CaptionInfo* info = captionWithText(QStringLiteral("two"));
+    bar.setCaption(info);
+    QVERIFY(bar.fontSizeBox()->isEnabled());
+    QVERIFY(bar.captureBox()->isChecked());
+
+    QSignalSpy ticks(&bar, &CaptionStyleBar::captionCheckStateChangedSignal);
+    QSignalSpy edits(&bar, &CaptionStyleBar::captionEditSignal);
+    bar.captureBox()->setChecked(false);
+    QVERIFY(!info->isCheck);
+    QCOMPARE(ticks.count(), 1);
+    QCOMPARE(ticks.at(0).at(1).toInt(), int(Qt::Unchecked));
+    QCOMPARE(edits.count(), 0);
+
+    bar.setCaption(nullptr);
+    QVERIFY(!bar.fontSizeBox()->isEnabled());
+    bar.setInsertEnabled(true);
+    QVERIFY(bar.insertButton()->isEnabled());
+}
+
+void TestCaptionOverlay::editTextInPlace()
+{
+    CaptionOverlay overlay;
+    overlay.resize(640, 360);
+    overlay.setVideoSize(QSize(1280, 720));
+    overlay.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&overlay));
+    CaptionInfo* info = captionWithText(QStringLiteral("one"));
+    overlay.setCaption(info);
+    QSignalSpy edits(&overlay, &CaptionOverlay::captionEditSignal);
+    QSignalSpy states(&overlay, &CaptionOverlay::editStateChanged);
+
+    QTest::mouseDClick(&overlay, Qt::LeftButton, Qt::NoModifier, overlay.captionRect().center());
+    QVERIFY(overlay.isEditing());
+    QCOMPARE(overlay.editor()->text(), QStringLiteral("one"));
+    QCOMPARE(states.count(), 1);
+    QCOMPARE(states.at(0).at(0).toBool(), true);
+
+    overlay.editor()->setText(QStringLiteral("one, edited"));
+    QTest::keyClick(overlay.editor(), Qt::Key_Return);
+    QVERIFY(!overlay.isEditing());
+    QCOMPARE(edits.count(), 1);
+    QCOMPARE(edits.at(0).at(0).value<CaptionInfo*>(), info);
+    QCOMPARE(edits.at(0).at(1).toBool(), false);
+    QCOMPARE(info->captionEdit->text, QStringLiteral("one, edited"));
+    QCOMPARE(states.last().at(0).toBool(), false);
+
+    // Escape drops the change; an unchanged text sends nothing either.
+    overlay.startEditing();
+    overlay.editor()->setText(QStringLiteral("thrown away"));
+    QTest::keyClick(overlay.editor(), Qt::Key_Escape);
+    QVERIFY(!overlay.isEditing());
+    overlay.startEditing();
+    overlay.finishEditing(true);
+    QCOMPARE(edits.count(), 1);
+
+    // Moving on to another caption while editing keeps what was typed.
+    overlay.startEditing();
+    overlay.editor()->setText(QStringLiteral("kept"));
+    overlay.setCaption(captionWithText(QStringLiteral("two")));
+    QCOMPARE(edits.count(), 2);
+    QCOMPARE(info->captionEdit->text, QStringLiteral("kept"));
+}
+
+void TestCaptionOverlay::dragMovesCaption()
+{
+    CaptionOverlay overlay;
+    CaptionStyleBar bar;
+    QObject::connect(&overlay, &CaptionOverlay::positionDragged, &bar, &CaptionStyleBar::setPosition);
+    overlay.resize(640, 360);
+    overlay.setVideoSize(QSize(1280, 720));
+    overlay.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&overlay));
+    CaptionInfo* info = captionWithText(QStringLiteral("three"));
+    CaptionEdit* edit = CaptionStyleBar::ensureEdit(info);
+    edit->x = 192;
+    edit->y = 268;
+    edit->isChange = true;
+    overlay.setCaption(info);
+    bar.setCaption(info);
+    QSignalSpy edits(&bar, &CaptionStyleBar::captionEditSignal);
+
+    // 64 px right and 72 px up on a 640x360 surface is 38 and 58 script units.
+    const QPoint start = overlay.captionRect().center();
+    QTest::mousePress(&overlay, Qt::LeftButton, Qt::NoModifier, start);
+    QTest::mouseMove(&overlay, start + QPoint(30, -30));
+    QTest::mouseMove(&overlay, start + QPoint(64, -72));
+    QTest::mouseRelease(&overlay, Qt::LeftButton, Qt::NoModifier, start + QPoint(64, -72));
+    QCOMPARE(edits.count(), 1);
+    QVERIFY(qAbs(info->captionEdit->x - 230) <= 1);
+    QVERIFY(qAbs(info->captionEdit->y - 210) <= 1);
+    QCOMPARE(bar.xBox()->value(), info->captionEdit->x);
+
+    // A click without a move is no drag.
+    const QPoint now = overlay.captionRect().center();
+    QTest::mouseClick(&overlay, Qt::LeftButton, Qt::NoModifier, now);
+    QCOMPARE(edits.count(), 1);
+}
+
+void TestCaptionOverlay::panelAddsCaptionAtCurrentTime()
+{
+    const QString dir = TestSupport::makeWorkDir(QStringLiteral("captionoverlay"));
+    const QString video = dir + QStringLiteral("/clip.mp4");
+    QVERIFY(TestSupport::makeVideo(video, 10.0, 640, 360));
+
+    VideoPlayWidget panel;
+    panel.getMpvWidget()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
+    panel.resize(800, 600);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    // Nothing loaded: nothing to add to.
+    QCOMPARE(panel.insertCaptionAtCurrentTime(), nullptr);
+    QCOMPARE(CaptionManager::instance()->getCaptions().size(), 3);
+
+    QSignalSpy loaded(panel.getMpvWidget(), &MpvWidget::playbackRestarted);
+    QVERIFY(panel.openFile(video));
+    QVERIFY(loaded.wait(20000));
+    panel.pause();
+    panel.getMpvWidget()->seekToPositionForCapture(2.0);
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(panel.getCurrentTime() - 2.0) < 0.001, 5000);
+    // The overlay and the toolbar follow the caption on screen.
+    CaptionInfo* one = captionWithText(QStringLiteral("one"));
+    QCOMPARE(panel.getCaptionOverlay()->caption(), one);
+    QCOMPARE(panel.getCaptionStyleBar()->caption(), one);
+
+    // Inside a caption nothing is added; that caption opens for editing.
+    QSignalSpy edits(&panel, &VideoPlayWidget::captionEditSignal);
+    QCOMPARE(panel.insertCaptionAtCurrentTime(), nullptr);
+    QVERIFY(panel.getCaptionOverlay()->isEditing());
+    panel.getCaptionOverlay()->finishEditing(false);
+    QCOMPARE(edits.count(), 0);
+
+    panel.getMpvWidget()->seekToPositionForCapture(4.0);
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(panel.getCurrentTime() - 4.0) < 0.001, 5000);
+    QCOMPARE(panel.getCaptionOverlay()->caption(), nullptr);
+    QVERIFY(!panel.getCaptionStyleBar()->fontSizeBox()->isEnabled());
+
+    CaptionInfo* added = panel.insertCaptionAtCurrentTime();
+    QVERIFY(added);
+    QCOMPARE(CaptionManager::instance()->getCaptions().size(), 4);
+    QCOMPARE(CaptionManager::instance()->getCaptions().at(1), added);
+    QCOMPARE(CaptionManager::parseAssTime(added->start), 4000);
+    // The gap up to the next caption, less 10 ms, is shorter than 3 s.
+    QCOMPARE(CaptionManager::parseAssTime(added->end), 4990);
+    QVERIFY(added->isInsert);
+    QVERIFY(!added->text.isEmpty());
+    QVERIFY(added->captionEdit);
+    QCOMPARE(added->captionEdit->text, added->text);
+    QCOMPARE(edits.count(), 1);
+    QCOMPARE(edits.at(0).at(0).value<CaptionInfo*>(), added);
+    QCOMPARE(edits.at(0).at(1).toBool(), false);
+    QVERIFY(panel.getCaptionOverlay()->isEditing());
+    QCOMPARE(panel.getCaptionOverlay()->caption(), added);
+    QCOMPARE(panel.getMpvWidget()->getPlayStatus(), MpvWidget::Pause);
+}
+
+void TestCaptionOverlay::editsReachTheBurntInFrame()
+{
+    const QString dir = TestSupport::makeWorkDir(QStringLiteral("captionoverlay-frame"));
+    const QString video = dir + QStringLiteral("/hd.mp4");
+    QVERIFY(TestSupport::makeVideo(video, 4.0));
+    CaptionManager::instance()->createCaptions(QByteArrayLiteral(
+        "{\"state\":\"success\",\"utterances\":[{\"start_time\":0,\"end_time\":4000,\"text\":\"MOVE ME\"}]}"),
+        false);
+    const QString assPath = CaptionManager::instance()->getTempAssFilePath();
+    QVERIFY(QFile::exists(assPath));
+    CaptionInfo* info = captionWithText(QStringLiteral("MOVE ME"));
+    QVERIFY(info);
+
+    VideoPlayWidget panel;
+    panel.getMpvWidget()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
+    panel.resize(960, 720);
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    // The main window's part: apply each edit, reload the rewritten file.
+    connect(&panel, &VideoPlayWidget::captionEditSignal, &panel,
+            [](CaptionInfo* edit, bool isAll) { CaptionManager::instance()->changeCaptionNew(edit, isAll); });
+    connect(GlobalManager::instance(), &GlobalManager::globalEvent, &panel, [&panel](QString name, QVariant value) {
+        if (name == AppConfig::UPDATE_CAPTION) {
+            panel.loadSubTitleFile(value.toString());
+        }
+    });
+    int subtitleLoads = 0;
+    connect(&panel, &VideoPlayWidget::captureEventSignal, &panel, [&subtitleLoads](int type, QVariant) {
+        subtitleLoads += type == 14 ? 1 : 0;
+    });
+    QList<MpvWidget::RestartKind> restarts;
+    connect(panel.getMpvWidget(), &MpvWidget::playbackRestarted, &panel,
+            [&restarts](MpvWidget::RestartKind kind) { restarts.append(kind); });
+
+    QVERIFY(panel.openFile(video));
+    QTRY_VERIFY_WITH_TIMEOUT(restarts.contains(MpvWidget::RestartAfterLoad), 20000);
+    panel.pause();
+    panel.getMpvWidget()->seekToPositionForCapture(2.0);
+    QTRY_VERIFY_WITH_TIMEOUT(restarts.contains(MpvWidget::RestartAfterCaptureSeek), 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(panel.getCaptionOverlay()->caption(), info, 3000);
+    const QImage plain = panel.getMpvWidget()->takeSnapshot().toImage();
+    QCOMPARE(plain.size(), QSize(1280, 720));
+
+    panel.loadSubTitleFile(assPath);
+    QTRY_COMPARE_WITH_TIMEOUT(subtitleLoads, 1, 5000);
+    const QRect burnt = changedBox(plain, panel.getMpvWidget()->takeSnapshot().toImage());
+    QVERIFY(!burnt.isEmpty());
+    QRectF framed = overlayBoxInFrame(panel.getCaptionOverlay(), plain.size());
+    // The frame drawn over the video sits where mpv burns the caption in.
+    QVERIFY2(qAbs(burnt.center().x() - framed.center().x()) < 30 && qAbs(burnt.bottom() - framed.bottom()) < 40,
+             qPrintable(QStringLiteral("burnt %1,%2 framed %3,%4").arg(burnt.center().x()).arg(burnt.bottom())
+                            .arg(framed.center().x()).arg(framed.bottom())));
+
+    // Moving it with the toolbar rewrites the file; the reloaded frame shows it there.
+    panel.getCaptionStyleBar()->setPosition(info, 96, 144);
+    QTRY_COMPARE_WITH_TIMEOUT(subtitleLoads, 2, 5000);
+    const QRect moved = changedBox(plain, panel.getMpvWidget()->takeSnapshot().toImage());
+    QVERIFY2(qAbs(moved.center().x() - 320) < 30 && qAbs(moved.bottom() - 360) < 40,
+             qPrintable(QStringLiteral("moved %1,%2").arg(moved.center().x()).arg(moved.bottom())));
+    framed = overlayBoxInFrame(panel.getCaptionOverlay(), plain.size());
+    QVERIFY(qAbs(moved.center().x() - framed.center().x()) < 30 && qAbs(moved.bottom() - framed.bottom()) < 40);
+}
+
+QTEST_MAIN(TestCaptionOverlay)
+#include "test_captionoverlay.moc"

@@ -1,0 +1,460 @@
+// The player panel with a real libmpv surface and media made by ffmpeg.
+#include "appconfig.h"
+#include "globalmanager.h"
+#include "mpvwidget.h"
+#include "testsupport.h"
+#include "videoplaywidget.h"
+
+#include <QComboBox>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QUrl>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+class Panel
+{
+public:
+    Panel()
+        : widget(new VideoPlayWidget())
+    {
+        mpv()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
+        widget->resize(900, 640);
+        widget->show();
+        QObject::connect(mpv(), &MpvWidget::playbackRestarted, widget.get(),
+                         [this](MpvWidget::RestartKind kind) { restarts.append(kind); });
+    }
+
+    MpvWidget* mpv() const { return widget->getMpvWidget(); }
+    bool exposed() { return QTest::qWaitForWindowExposed(widget.get()); }
+
+    bool open(const QString& path)
+    {
+        restarts.clear();
+        if (!widget->openFile(path)) {
+            return false;
+        }
+        return waitFor(MpvWidget::RestartAfterLoad, 20000);
+    }
+
+    bool waitFor(MpvWidget::RestartKind kind, int timeoutMs = 10000)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        while (!restarts.contains(kind) && clock.elapsed() < timeoutMs) {
+            QTest::qWait(5);
+        }
+        return restarts.contains(kind);
+    }
+
+    bool seekForCapture(double seconds)
+    {
+        restarts.clear();
+        mpv()->seekToPositionForCapture(seconds);
+        return waitFor(MpvWidget::RestartAfterCaptureSeek);
+    }
+
+    void click(int id) { widget->getControlButton(id)->click(); }
+
+    std::unique_ptr<VideoPlayWidget> widget;
+    QList<MpvWidget::RestartKind> restarts;
+};
+
+QList<QVariant> lastBusEvent(const QSignalSpy& spy, const QString& name)
+{
+    for (int i = spy.count() - 1; i >= 0; --i) {
+        if (spy.at(i).at(0).toString() == name) {
+            return spy.at(i);
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+class TestVideoPlayWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void startState();
+    void mutedAtStart();
+    void openFileShowsVideoAndFigures();
+    void labelsFollowFramesAndSliderSeeks();
+    void transportButtons();
+    void spaceShortcutTogglesPlayback();
+    void captureButtons();
+    void captureSeekRepliesFollowCaptureType();
+    void subtitleAddAndRemove();
+    void dropAcceptsOnlyOneFile();
+    void badFilesReturnToLogo_data();
+    void badFilesReturnToLogo();
+    void videoWithoutAudioAnd4k();
+
+private:
+    QString m_dir;
+    QString m_video;
+};
+
+void TestVideoPlayWidget::initTestCase()
+{
+    TestSupport::isolate();
+    m_dir = TestSupport::makeWorkDir(QStringLiteral("videoplaywidget"));
+    m_video = m_dir + QStringLiteral("/clip.mp4");
+    QVERIFY(TestSupport::makeVideo(m_video, 10.0));
+}
+
+void TestVideoPlayWidget::init()
+{
+    GlobalManager::instance()->saveSettings(AppConfig::PLAYER_MUTE, false);
+    GlobalManager::instance()->saveSettings(AppConfig::PLAYER_VOLUME, 100);
+}
+
+void TestVideoPlayWidget::startState()
+{
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QVERIFY(panel.widget->isLogoShown());
+    QVERIFY(!panel.mpv()->isVisible());
+    QVERIFY(!panel.widget->isLoadFile());
+    QCOMPARE(panel.widget->currentTimeText(), QStringLiteral("00:00:00:00"));
+    QCOMPARE(panel.widget->totalTimeText(), QStringLiteral("00:00:00:00"));
+    QCOMPARE(panel.widget->speedComboBox()->currentIndex(), -1);
+    QCOMPARE(panel.widget->speedComboBox()->count(), 9);
+    QCOMPARE(panel.widget->speedComboBox()->itemText(1), QStringLiteral("1.25x"));
+    QCOMPARE(panel.widget->speedComboBox()->itemText(8), QStringLiteral("3.00x"));
+    QCOMPARE(panel.widget->soundSlider()->value(), 100);
+    QVERIFY(panel.widget->soundSlider()->isEnabled());
+    for (int id = 0; id < 6; ++id) {
+        QCOMPARE(panel.widget->getControlButton(id)->property("button").toInt(), id);
+    }
+    QCOMPARE(panel.widget->getControlButton(4)->toolTip(), QStringLiteral("Capture [Ctrl+Alt+S]"));
+
+    // Frame steps before anything is loaded do nothing, but still report the click.
+    QSignalSpy clicked(panel.widget.get(), &BaseWidget::buttonClicked);
+    panel.click(VideoPlayWidget::ButtonPreviousFrame);
+    panel.click(VideoPlayWidget::ButtonNextFrame);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
+    QCOMPARE(clicked.count(), 2);
+    QCOMPARE(clicked.at(1).at(0).toInt(), 1);
+}
+
+void TestVideoPlayWidget::mutedAtStart()
+{
+    GlobalManager::instance()->saveSettings(AppConfig::PLAYER_MUTE, true);
+    GlobalManager::instance()->saveSettings(AppConfig::PLAYER_VOLUME, 40);
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QVERIFY(!panel.widget->soundSlider()->isEnabled());
+    QCOMPARE(panel.widget->soundSlider()->value(), 40);
+    QVERIFY(panel.widget->soundButton()->property("muted").toBool());
+    QTRY_VERIFY_WITH_TIMEOUT(panel.mpv()->isMute(), 2000);
+
+    panel.widget->soundButton()->click();
+    QTRY_VERIFY_WITH_TIMEOUT(!panel.mpv()->isMute(), 2000);
+    QVERIFY(panel.widget->soundSlider()->isEnabled());
+    QCOMPARE(GlobalManager::instance()->readSettings(AppConfig::PLAYER_MUTE).toBool(), false);
+
+    panel.widget->soundSlider()->setValue(65);
+    QCOMPARE(GlobalManager::instance()->readSettings(AppConfig::PLAYER_VOLUME).toInt(), 65);
+}
+
+void TestVideoPlayWidget::openFileShowsVideoAndFigures()
+{
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QVERIFY(!panel.widget->openFile(m_dir + QStringLiteral("/nothing-here.mp4")));
+    QVERIFY(!panel.widget->openFile(m_dir));
+    QVERIFY(panel.widget->isLogoShown());
+
+    QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
+    QVERIFY(panel.open(m_video));
+    QVERIFY(!panel.widget->isLogoShown());
+    QVERIFY(panel.mpv()->isVisible());
+    QVERIFY(panel.widget->isLoadFile());
+    QCOMPARE(lastBusEvent(bus, AppConfig::LOAD_FILE_COMPLETE).value(1).toString(), m_video);
+    QCOMPARE(GlobalManager::instance()->readSettings(AppConfig::OPEN_FILE_PATH).toString(), m_video);
+    QCOMPARE(panel.widget->progressSlider()->maximum(), 10);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Play);
+    QTRY_COMPARE_WITH_TIMEOUT(panel.widget->totalTimeText(), QStringLiteral("00:00:10:25"), 3000);
+
+    panel.widget->speedComboBox()->setCurrentIndex(4);
+    QTRY_VERIFY_WITH_TIMEOUT(panel.widget->getCurrentTime() > 0.5, 5000);
+}
+
+void TestVideoPlayWidget::labelsFollowFramesAndSliderSeeks()
+{
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QVERIFY(panel.open(m_video));
+    panel.widget->pause();
+    QSignalSpy times(panel.widget.get(), &VideoPlayWidget::playerTimePos);
+
+    // 2.04 s is frame 51: the second frame of second 2 reads 02.
+    QVERIFY(panel.seekForCapture(2.04));
+    QTRY_COMPARE_WITH_TIMEOUT(panel.widget->currentTimeText(), QStringLiteral("00:00:02:02"), 3000);
+    QCOMPARE(panel.widget->progressSlider()->value(), 2);
+    QVERIFY(times.count() > 0);
+    QVERIFY(qAbs(times.last().at(0).toDouble() - 2.04) < 0.001);
+
+    // A user move of the slider seeks to whole seconds.
+    QSlider* slider = panel.widget->progressSlider();
+    slider->setSliderDown(true);
+    panel.restarts.clear();
+    slider->setValue(7);
+    QVERIFY(panel.waitFor(MpvWidget::RestartAfterSeek));
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(panel.widget->getCurrentTime() - 7.0) < 0.05, 3000);
+
+    // While the handle is held the poll leaves the slider alone.
+    panel.mpv()->seekToPosition(3);
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(panel.widget->getCurrentTime() - 3.0) < 0.05, 3000);
+    QCOMPARE(slider->value(), 7);
+    slider->setSliderDown(false);
+    QTRY_COMPARE_WITH_TIMEOUT(slider->value(), 3, 3000);
+}
+
+void TestVideoPlayWidget::transportButtons()
+{
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QVERIFY(panel.open(m_video));
+    panel.widget->pause();
+    QVERIFY(panel.seekForCapture(1.0));
+    QCOMPARE(panel.mpv()->getCurrentFrame(), 25);
+
+    panel.click(VideoPlayWidget::ButtonNextFrame);
+    QTRY_COMPARE_WITH_TIMEOUT(panel.mpv()->getCurrentFrame(), 26, 3000);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Pause);
+    panel.click(VideoPlayWidget::ButtonPreviousFrame);
+    QTRY_COMPARE_WITH_TIMEOUT(panel.mpv()->getCurrentFrame(), 25, 3000);
+
+    panel.click(VideoPlayWidget::ButtonPlay);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Play);
+    QTRY_VERIFY_WITH_TIMEOUT(panel.mpv()->getCurrentFrame() > 30, 5000);
+    panel.click(VideoPlayWidget::ButtonPlay);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Pause);
+
+    panel.click(VideoPlayWidget::ButtonStop);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
+    QVERIFY(panel.widget->isLogoShown());
+    QVERIFY(!panel.widget->isLoadFile());
+    panel.click(VideoPlayWidget::ButtonNextFrame);
+    panel.click(VideoPlayWidget::ButtonPreviousFrame);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
+
+    // The panel is usable again after stop.
+    QVERIFY(panel.open(m_video));
+    QVERIFY(!panel.widget->isLogoShown());
+}
+
+void TestVideoPlayWidget::spaceShortcutTogglesPlayback()
+{
+    Panel panel;
+    QVERIFY(panel.exposed());
+    panel.widget->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(panel.widget.get()));
+    QVERIFY(panel.open(m_video));
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Play);
+    QTest::keyClick(panel.widget.get(), Qt::Key_Space);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Pause);
+    QTest::keyClick(panel.widget.get(), Qt::Key_Space);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Play);
+    QTest::keyClick(panel.widget.get(), Qt::Key_Slash, Qt::ControlModifier);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
+    QVERIFY(panel.widget->isLogoShown());
+}
+
+void TestVideoPlayWidget::captureButtons()
+{
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
+    // Nothing loaded: capture fails quietly.
+    panel.click(VideoPlayWidget::ButtonCapture);
+    QVERIFY(lastBusEvent(bus, AppConfig::CAPTURE_IMAGE).isEmpty());
+
+    QVERIFY(panel.open(m_video));
+    panel.widget->pause();
+    QVERIFY(panel.seekForCapture(3.0));
+    panel.click(VideoPlayWidget::ButtonCapture);
+    const QList<QVariant> event = lastBusEvent(bus, AppConfig::CAPTURE_IMAGE);
+    QVERIFY(!event.isEmpty());
+    const auto data = event.at(1).value<AppConfig::CaptureData>();
+    QCOMPARE(data.pixmap.size(), QSize(1280, 720));
+    QVERIFY(qAbs(data.time - 3.0) < 0.001);
+    QCOMPARE(data.frame, 75);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Pause);
+
+    QSignalSpy select(panel.widget.get(), &VideoPlayWidget::captureSelectSignal);
+    panel.widget->play();
+    panel.click(VideoPlayWidget::ButtonCaptureSelected);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Pause);
+    QCOMPARE(panel.widget->getCaptureType(), 1);
+    QCOMPARE(select.count(), 1);
+    QCOMPARE(select.at(0).at(0).toInt(), 0);
+}
+
+void TestVideoPlayWidget::captureSeekRepliesFollowCaptureType()
+{
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QVERIFY(panel.open(m_video));
+    panel.widget->pause();
+    QSignalSpy events(panel.widget.get(), &VideoPlayWidget::captureEventSignal);
+    QSignalSpy select(panel.widget.get(), &VideoPlayWidget::captureSelectSignal);
+
+    QVERIFY(panel.seekForCapture(1.5));
+    QCOMPARE(events.count(), 1);
+    QCOMPARE(events.at(0).at(0).toInt(), 16);
+    QCOMPARE(select.count(), 0);
+
+    panel.widget->changeCaptureType(1);
+    QVERIFY(panel.seekForCapture(2.5));
+    QCOMPARE(events.count(), 1);
+    QCOMPARE(select.count(), 1);
+    QCOMPARE(select.at(0).at(0).toInt(), 17);
+}
+
+void TestVideoPlayWidget::subtitleAddAndRemove()
+{
+    const QString ass = m_dir + QStringLiteral("/panel.ass");
+    QVERIFY(TestSupport::writeFile(ass, QByteArrayLiteral(
+        "[Script Info]\nScriptType: v4.00+\n\n[Events]\n"
+        "Format: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n"
+        "Dialogue: 0,0:00:00.00,0:00:09.00,Default,,0,0,0,,panel caption\n")));
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QVERIFY(panel.open(m_video));
+    QSignalSpy events(panel.widget.get(), &VideoPlayWidget::captureEventSignal);
+
+    panel.widget->loadSubTitleFile(QString());
+    QTest::qWait(200);
+    QCOMPARE(events.count(), 0);
+
+    panel.widget->loadSubTitleFile(ass);
+    QTRY_COMPARE_WITH_TIMEOUT(events.count(), 1, 3000);
+    QCOMPARE(events.at(0).at(0).toInt(), 14);
+    panel.widget->loadSubTitleFile(ass);
+    QTRY_COMPARE_WITH_TIMEOUT(events.count(), 2, 3000);
+    QCOMPARE(panel.mpv()->externalSubtitleTracks().size(), 2);
+
+    panel.widget->removeCaption(0);
+    QTRY_COMPARE_WITH_TIMEOUT(events.count(), 4, 3000);
+    QCOMPARE(events.at(2).at(0).toInt(), 15);
+    QCOMPARE(events.at(3).at(0).toInt(), 15);
+    QVERIFY(panel.mpv()->externalSubtitleTracks().isEmpty());
+}
+
+void TestVideoPlayWidget::dropAcceptsOnlyOneFile()
+{
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QSignalSpy dragged(panel.widget.get(), &VideoPlayWidget::dragFileSignal);
+    const QPoint inside(100, 100);
+
+    QMimeData several;
+    several.setUrls({QUrl::fromLocalFile(m_video), QUrl::fromLocalFile(m_dir + QStringLiteral("/b.mp4"))});
+    QDragEnterEvent enter(inside, Qt::CopyAction, &several, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(panel.widget.get(), &enter);
+    QVERIFY(enter.isAccepted());
+    QDropEvent dropSeveral(inside, Qt::CopyAction, &several, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(panel.widget.get(), &dropSeveral);
+    QCOMPARE(dragged.count(), 0);
+
+    QMimeData text;
+    text.setText(QStringLiteral("not a file"));
+    QDragEnterEvent enterText(inside, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    enterText.setAccepted(false);
+    QApplication::sendEvent(panel.widget.get(), &enterText);
+    QVERIFY(!enterText.isAccepted());
+
+    // Qt delivers a drop to the widget that accepted the drag's entry.
+    QMimeData one;
+    one.setUrls({QUrl::fromLocalFile(m_video)});
+    QDragEnterEvent enterOne(inside, Qt::CopyAction, &one, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(panel.widget.get(), &enterOne);
+    QVERIFY(enterOne.isAccepted());
+    QDropEvent dropOne(inside, Qt::CopyAction, &one, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(panel.widget.get(), &dropOne);
+    QCOMPARE(dragged.count(), 1);
+    QCOMPARE(dragged.at(0).at(0).toString(), m_video);
+    QVERIFY(panel.widget->isLogoShown());
+}
+
+void TestVideoPlayWidget::badFilesReturnToLogo_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("name");
+    QByteArray noise(300000, '\0');
+    for (int i = 0; i < noise.size(); ++i) {
+        noise[i] = static_cast<char>((i * 31337 + 7) % 253);
+    }
+    QTest::newRow("unplayable bytes") << noise << QStringLiteral("noise.mp4");
+    QTest::newRow("text renamed") << QByteArray("just some words\n") << QStringLiteral("words.mp4");
+    QTest::newRow("empty file") << QByteArray() << QStringLiteral("empty.mkv");
+}
+
+void TestVideoPlayWidget::badFilesReturnToLogo()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, name);
+    const QString path = m_dir + QLatin1Char('/') + name;
+    QVERIFY(TestSupport::writeFile(path, content));
+
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QSignalSpy failed(panel.mpv(), &MpvWidget::loadFailed);
+    QVERIFY(panel.widget->openFile(path));
+    QVERIFY(!panel.widget->isLogoShown());
+    QVERIFY(failed.wait(10000));
+    QVERIFY(panel.widget->isLogoShown());
+    QVERIFY(!panel.widget->isLoadFile());
+    QCOMPARE(panel.widget->totalTimeText(), QStringLiteral("00:00:00:00"));
+
+    // A missing file handed straight to the player ends the same way.
+    QSignalSpy failedAgain(panel.mpv(), &MpvWidget::loadFailed);
+    panel.widget->loadFileByFileName(m_dir + QStringLiteral("/gone.mp4"));
+    QVERIFY(failedAgain.wait(10000));
+    QVERIFY(panel.widget->isLogoShown());
+
+    QVERIFY(panel.open(m_video));
+    QTRY_COMPARE_WITH_TIMEOUT(panel.widget->totalTimeText(), QStringLiteral("00:00:10:25"), 3000);
+}
+
+void TestVideoPlayWidget::videoWithoutAudioAnd4k()
+{
+    const QString silent = m_dir + QStringLiteral("/silent.mp4");
+    QVERIFY(TestSupport::makeVideo(silent, 2.0, 640, 480, 25, false));
+    const QString uhd = m_dir + QStringLiteral("/uhd.mp4");
+    QVERIFY(TestSupport::makeVideo(uhd, 1.0, 3840, 2160, 25, true));
+
+    Panel panel;
+    QVERIFY(panel.exposed());
+    QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
+    QVERIFY(panel.open(silent));
+    QTRY_COMPARE_WITH_TIMEOUT(panel.widget->totalTimeText(), QStringLiteral("00:00:02:25"), 3000);
+    panel.click(VideoPlayWidget::ButtonCapture);
+    QCOMPARE(lastBusEvent(bus, AppConfig::CAPTURE_IMAGE).value(1).value<AppConfig::CaptureData>().pixmap.size(),
+             QSize(640, 480));
+
+    QVERIFY(panel.open(uhd));
+    panel.widget->pause();
+    QVERIFY(panel.seekForCapture(0.5));
+    panel.click(VideoPlayWidget::ButtonCapture);
+    QCOMPARE(lastBusEvent(bus, AppConfig::CAPTURE_IMAGE).value(1).value<AppConfig::CaptureData>().pixmap.size(),
+             QSize(3840, 2160));
+    // Still responsive: the panel plays on and reaches the end.
+    panel.widget->play();
+    QTRY_VERIFY_WITH_TIMEOUT(panel.mpv()->isEofReached(), 15000);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Pause);
+}
+
+QTEST_MAIN(TestVideoPlayWidget)
+#include "test_videoplaywidget.moc"
