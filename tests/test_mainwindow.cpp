@@ -1,0 +1,251 @@
+#include "appconfig.h"
+#include "captioninfo.h"
+#include "captionmanager.h"
+#include "captionwidget.h"
+#include "globalmanager.h"
+#include "imageitem.h"
+#include "imageswidget.h"
+#include "loadingdialog.h"
+#include "mainwindow.h"
+#include "messagedialog.h"
+#include "mpvwidget.h"
+#include "previewwidget.h"
+#include "testsupport.h"
+#include "titlebar.h"
+#include "videoplaywidget.h"
+
+#include <QDir>
+#include <QImageReader>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+
+namespace {
+// Mean absolute difference per channel over a rectangle of two RGB images.
+double meanDifference(const QImage& a, const QImage& b, const QRect& area)
+{
+    const QImage x = a.convertToFormat(QImage::Format_RGB32);
+    const QImage y = b.convertToFormat(QImage::Format_RGB32);
+    if (x.size() != y.size()) {
+        return 1e9;
+    }
+    qint64 sum = 0;
+    for (int row = area.top(); row <= area.bottom(); ++row) {
+        const QRgb* p = reinterpret_cast<const QRgb*>(x.constScanLine(row));
+        const QRgb* q = reinterpret_cast<const QRgb*>(y.constScanLine(row));
+        for (int col = area.left(); col <= area.right(); ++col) {
+            sum += qAbs(qRed(p[col]) - qRed(q[col])) + qAbs(qGreen(p[col]) - qGreen(q[col]))
+                   + qAbs(qBlue(p[col]) - qBlue(q[col]));
+        }
+    }
+    return double(sum) / (3.0 * area.width() * area.height());
+}
+} // namespace
+
+// The real main window end to end: video and subtitles in, stitched picture out.
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+private:
+    QString m_dir;
+    QString m_video;
+    QString m_srt;
+    QString m_output;
+    MainWindow* m_window = nullptr;
+
+    // The frame ffmpeg decodes at a time, converted the way mpv converts HD video.
+    QImage referenceFrame(double seconds, bool withSubtitles = false)
+    {
+        const QString out = m_dir + QStringLiteral("/ref-%1-%2.png").arg(seconds).arg(withSubtitles);
+        QString filter = QStringLiteral("scale=in_color_matrix=bt709:flags=accurate_rnd+full_chroma_int");
+        if (withSubtitles) {
+            filter.prepend(QStringLiteral("subtitles=%1,").arg(CaptionManager::instance()->getAssFilePath()));
+        }
+        const int rc = TestSupport::ffmpeg({"-ss", QString::number(seconds), "-i", m_video, "-frames:v", "1",
+                                            "-vf", filter, out});
+        return rc == 0 ? QImage(out) : QImage();
+    }
+
+private slots:
+    void initTestCase()
+    {
+        TestSupport::isolate();
+        m_dir = TestSupport::makeWorkDir(QStringLiteral("mainwindow"));
+        m_output = m_dir + QStringLiteral("/out");
+        GlobalManager* global = GlobalManager::instance();
+        global->saveSettings(AppConfig::FIRST_OPEN_APP, true);
+        global->saveSettings(AppConfig::FILE_SAVE_PATH, m_output);
+        global->saveSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_PNG);
+        // The registration guide would wait for a click after the export.
+        global->saveInAppSettings(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT, true);
+
+        m_video = m_dir + QStringLiteral("/holiday.mp4");
+        QVERIFY(TestSupport::makeVideo(m_video, 10.0, 1280, 720, 25, true));
+        m_srt = m_dir + QStringLiteral("/holiday.srt");
+        QVERIFY(TestSupport::writeFile(m_srt, "1\n00:00:01,000 --> 00:00:02,000\nFirst caption\n\n"
+                                              "2\n00:00:03,000 --> 00:00:04,000\nSecond caption\n\n"
+                                              "3\n00:00:05,040 --> 00:00:06,000\nThird caption\n\n"
+                                              "4\n00:00:07,000 --> 00:00:08,000\nFourth, the last\n\n"));
+
+        m_window = new MainWindow();
+        m_window->show();
+        m_window->resize(AppConfig::rate(QSize(1100, 741)));
+        QVERIFY(QTest::qWaitForWindowExposed(m_window));
+        m_window->videoPlayWidget()->getMpvWidget()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
+    }
+
+    void cleanupTestCase()
+    {
+        if (m_window) {
+            m_window->close();
+            delete m_window;
+        }
+    }
+
+    void openVideoAndSubtitles()
+    {
+        QSignalSpy events(GlobalManager::instance(), &GlobalManager::globalEvent);
+        QVERIFY(m_window->videoPlayWidget()->openFile(m_video));
+        QTRY_VERIFY_WITH_TIMEOUT(GlobalManager::instance()->getCurrentFile().fileName() == QStringLiteral("holiday.mp4"),
+                                 20000);
+        QCOMPARE(m_window->windowTitle(), QStringLiteral("Glimmer - holiday.mp4"));
+        // No captions yet: an empty working file was written and loaded.
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(CaptionManager::instance()->getTempAssFilePath()), 5000);
+
+        QSignalSpy replies(m_window->videoPlayWidget(), &VideoPlayWidget::captureEventSignal);
+        m_window->loadCaption(m_srt);
+        QCOMPARE(CaptionManager::instance()->getCaptions().size(), 4);
+        QVERIFY(m_window->captionWidget()->isVisible());
+        QCOMPARE(m_window->captionWidget()->items().size(), 4);
+        QTRY_VERIFY_WITH_TIMEOUT(!replies.isEmpty() && replies.last().at(0).toInt() == 14, 10000);
+        QVERIFY(!m_window->messageDialog()->isVisible());
+    }
+
+    void captureCheckedTakesTheCaptionStarts()
+    {
+        // Three of the four captions are ticked.
+        CaptionInfo* second = CaptionManager::instance()->getCaptions().at(1);
+        m_window->captionWidget()->items().at(1)->setCheck(false, true);
+        QVERIFY(!second->isCheck);
+
+        QSignalSpy finished(m_window, &MainWindow::captureSelectFinished);
+        m_window->videoPlayWidget()->getControlButton(VideoPlayWidget::ButtonCaptureSelected)->click();
+        QVERIFY(m_window->loadingDialog()->isVisible());
+        QVERIFY(finished.wait(60000));
+        QVERIFY(!m_window->loadingDialog()->isVisible());
+
+        const QList<ImageItem*> items = m_window->imagesWidget()->items();
+        QCOMPARE(items.size(), 3);
+        const QList<double> starts{1.0, 5.04, 7.0};
+        for (int i = 0; i < items.size(); ++i) {
+            const QImage shot = items.at(i)->getPixmap().toImage();
+            QCOMPARE(shot.size(), QSize(1280, 720));
+            QVERIFY2(qAbs(items.at(i)->getCpatureTime() - starts.at(i)) < 0.045,
+                     qPrintable(QString::number(items.at(i)->getCpatureTime())));
+            const QImage plain = referenceFrame(starts.at(i));
+            QVERIFY(!plain.isNull());
+            // The picture above the caption band is the frame at the caption's start...
+            const double above = meanDifference(shot, plain, QRect(0, 0, 1280, 540));
+            QVERIFY2(above < 3.0, qPrintable(QStringLiteral("frame %1 differs by %2").arg(i).arg(above)));
+            // ...and the caption is burnt into the band below.
+            const double band = meanDifference(shot, plain, QRect(0, 560, 1280, 160));
+            QVERIFY2(band > 3.0, qPrintable(QStringLiteral("no caption in frame %1 (%2)").arg(i).arg(band)));
+        }
+        QImage::Format format = items.at(0)->getPixmap().toImage().format();
+        QVERIFY(format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied);
+        QVERIFY(items.at(0)->getPixmap().toImage().pixelColor(5, 5).alpha() == 255);
+    }
+
+    void composeVerticalAndExport()
+    {
+        GlobalManager* global = GlobalManager::instance();
+        PreviewWidget* preview = m_window->previewWidget();
+        preview->setRadioType(1);
+        global->saveInAppSettings(AppConfig::PROPERTY_Y_SPACE, QStringLiteral("-500"));
+        preview->showImage();
+        const QPixmap composite = preview->getGroupPixmap();
+        QCOMPARE(composite.size(), QSize(1280, 720 + 2 * 220));
+
+        QSignalSpy exported(preview, &PreviewWidget::exportFinishedSignal);
+        preview->exportButtonClickHandle();
+        QVERIFY(exported.wait(30000));
+        QVERIFY(exported.at(0).at(1).toStringList().isEmpty());
+        const QStringList files = QDir(m_output).entryList({QStringLiteral("*.png")}, QDir::Files);
+        QCOMPARE(files.size(), 1);
+        QImageReader reader(m_output + QLatin1Char('/') + files.first());
+        QCOMPARE(reader.format(), QByteArray("png"));
+        QCOMPARE(reader.size(), composite.size());
+    }
+
+    void applyToAllRecapturesEveryFrame()
+    {
+        const QList<ImageItem*> items = m_window->imagesWidget()->items();
+        QList<QImage> before;
+        for (ImageItem* item : items) {
+            before << item->getPixmap().toImage();
+        }
+        CaptionInfo* info = CaptionManager::instance()->getCaptions().first();
+        QVERIFY(info->captionEdit);
+        info->captionEdit->fontSize = 34;
+        info->captionEdit->y = 150;
+
+        QSignalSpy done(m_window, &MainWindow::recaptureFinished);
+        emit m_window->videoPlayWidget()->captionEditSignal(info, true);
+        QVERIFY(done.wait(60000));
+        QVERIFY(!m_window->loadingDialog()->isVisible());
+        for (int i = 0; i < items.size(); ++i) {
+            const QImage after = items.at(i)->getPixmap().toImage();
+            QCOMPARE(after.size(), before.at(i).size());
+            // The caption moved up to the middle: the middle band changed, the top did not.
+            QVERIFY2(meanDifference(after, before.at(i), QRect(0, 380, 1280, 200)) > 2.0,
+                     qPrintable(QStringLiteral("item %1 not re-captured").arg(i)));
+            QVERIFY(meanDifference(after, before.at(i), QRect(0, 0, 1280, 200)) < 1.0);
+        }
+    }
+
+    void screenshotForPeople()
+    {
+        const QString dir = QStringLiteral(GLIMMER_BINARY_DIR "/screenshots");
+        QDir().mkpath(dir);
+        QVERIFY(m_window->grab().save(dir + QStringLiteral("/mainwindow.png")));
+    }
+
+    void failuresReachTheUser()
+    {
+        // A subtitle file without captions says so.
+        const QString empty = m_dir + QStringLiteral("/empty.srt");
+        QVERIFY(TestSupport::writeFile(empty, "no captions here\n"));
+        m_window->loadCaption(empty);
+        QVERIFY(m_window->messageDialog()->isVisible());
+        QVERIFY(m_window->messageDialog()->message().contains(QStringLiteral("empty.srt")));
+        m_window->messageDialog()->accept();
+
+        // Every finish of the loading dialog asks the running work to stop, once.
+        QSignalSpy events(GlobalManager::instance(), &GlobalManager::globalEvent);
+        m_window->loadingDialog()->showWithText(QStringLiteral("x"));
+        m_window->loadingDialog()->hide();
+        m_window->loadingDialog()->showWithText(QStringLiteral("y"));
+        m_window->loadingDialog()->reject();
+        int stops = 0;
+        for (const auto& args : events) {
+            stops += args.at(0).toString() == AppConfig::STOP_AI_CAPTION ? 1 : 0;
+        }
+        QCOMPARE(stops, 1);
+    }
+
+    void captionPanelRestoresTheWidth()
+    {
+        m_window->showCaptionWidget(false);
+        m_window->resize(m_window->minimumWidth(), m_window->height());
+        QTest::qWait(50);
+        const int width = m_window->width();
+        m_window->showCaptionWidget(true);
+        QTest::qWait(50);
+        m_window->showCaptionWidget(false);
+        QTest::qWait(50);
+        QCOMPARE(m_window->width(), width);
+    }
+};
+
+QTEST_MAIN(TestMainWindow)
+#include "test_mainwindow.moc"
