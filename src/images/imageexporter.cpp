@@ -30,6 +30,10 @@ bool ImageExporter::start(const QList<QPixmap>& pixmaps)
     GlobalManager* manager = GlobalManager::instance();
     const QString folder = manager->getDirByCheck(
         manager->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString() + QStringLiteral("/tmp"));
+    // saveFinished is queued from inside run(): the thread may still be on its
+    // way out when the next export starts.
+    m_thread->wait();
+    m_busy = true;
     m_errors.clear();
     m_pending.clear();
     m_thread->setPixmapList(pixmaps, folder);
@@ -39,11 +43,12 @@ bool ImageExporter::start(const QList<QPixmap>& pixmaps)
 
 bool ImageExporter::isRunning() const
 {
-    return m_thread->isRunning() || m_waitingForGuide;
+    return m_busy;
 }
 
 void ImageExporter::saveFinishedHandle(const QStringList& paths)
 {
+    m_busy = false;
     emit writingFinished();
     GlobalManager* manager = GlobalManager::instance();
     manager->saveInAppSettings(AppConfig::EXPORT_FIRST_IN_APP, true);
@@ -65,6 +70,7 @@ void ImageExporter::saveFinishedHandle(const QStringList& paths)
         return;
     }
     m_waitingForGuide = true;
+    m_busy = true;
     emit showRegisterGuide();
 }
 
@@ -74,6 +80,7 @@ void ImageExporter::registerGuideClosedHandle()
         return;
     }
     m_waitingForGuide = false;
+    m_busy = false;
     moveAndReveal();
 }
 

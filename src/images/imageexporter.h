@@ -51,6 +51,7 @@ private:
     QStringList m_errors;
     QStringList m_pending;
     bool m_waitingForGuide = false;
+    bool m_busy = false;
     bool m_showMessages = true;
 };
 
