@@ -18,19 +18,104 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QRegion>
 #include <QVBoxLayout>
+#include <QVector>
+
+#include <cstdlib>
+#include <limits>
 
 namespace {
-// Draws the part `source` of `pixmap` with its top-left corner at `at`. The part is
-// clipped to the pixmap first: where a band reaches outside a smaller frame the
-// white canvas stays visible, and nothing is copied on the way.
-void drawPart(QPainter& painter, const QPoint& at, const QPixmap& pixmap, const QRect& source)
+// Canvas memory is recycled: a fresh buffer of a few hundred megabytes costs more
+// in page faults than the whole stitch. The last released canvas is kept as a
+// spare and reused when it fits, so recomposing (every property edit) writes
+// into memory that is already mapped. The pool is never destroyed, so a canvas
+// released during exit still finds it.
+struct CanvasBuffer {
+    uchar* data;
+    qsizetype size;
+};
+
+struct CanvasPool {
+    QMutex mutex;
+    CanvasBuffer* spare = nullptr;
+};
+
+CanvasPool* canvasPool()
+{
+    static auto* pool = new CanvasPool();
+    return pool;
+}
+
+void releaseCanvas(void* info)
+{
+    auto* buffer = static_cast<CanvasBuffer*>(info);
+    CanvasPool* pool = canvasPool();
+    CanvasBuffer* old = nullptr;
+    {
+        QMutexLocker locker(&pool->mutex);
+        old = pool->spare;
+        pool->spare = buffer;
+    }
+    if (old) {
+        std::free(old->data);
+        delete old;
+    }
+}
+
+QImage acquireCanvas(const QSize& size)
+{
+    const qsizetype bytesPerLine = qsizetype(size.width()) * 4;
+    const qsizetype bytes = bytesPerLine * size.height();
+    if (size.width() > (std::numeric_limits<int>::max() / 4) || bytes / bytesPerLine != size.height()) {
+        return QImage();
+    }
+    CanvasPool* pool = canvasPool();
+    CanvasBuffer* buffer = nullptr;
+    {
+        QMutexLocker locker(&pool->mutex);
+        // A spare much larger than needed is given back rather than kept alive.
+        if (pool->spare && pool->spare->size >= bytes && pool->spare->size <= 2 * bytes) {
+            buffer = pool->spare;
+            pool->spare = nullptr;
+        }
+    }
+    if (!buffer) {
+        {
+            QMutexLocker locker(&pool->mutex);
+            if (pool->spare) {
+                std::free(pool->spare->data);
+                delete pool->spare;
+                pool->spare = nullptr;
+            }
+        }
+        auto* data = static_cast<uchar*>(std::malloc(size_t(bytes)));
+        if (!data) {
+            return QImage();
+        }
+        buffer = new CanvasBuffer{data, bytes};
+    }
+    return QImage(buffer->data, size.width(), size.height(), bytesPerLine, QImage::Format_RGB32, releaseCanvas,
+                  buffer);
+}
+
+// One frame's visible part: `source` (already clipped to the frame) lands at `at`.
+struct Part {
+    int index;
+    QPoint at;
+    QRect source;
+};
+
+// Adds the part `source` of frame `index`, clipped to the frame first: where a
+// band reaches outside a smaller frame the white canvas stays visible.
+void addPart(QVector<Part>& parts, int index, const QPixmap& pixmap, const QPoint& at, const QRect& source)
 {
     const QRect part = source.intersected(pixmap.rect());
-    if (part.isEmpty()) {
-        return;
+    if (!part.isEmpty()) {
+        parts.append({index, at + (part.topLeft() - source.topLeft()), part});
     }
-    painter.drawPixmap(at + (part.topLeft() - source.topLeft()), pixmap, part);
 }
 } // namespace
 
@@ -285,15 +370,8 @@ QImage PreviewWidget::composeImages(const QList<QPixmap>& pixmaps, int layoutTyp
         return QImage();
     }
 
-    // The canvas is opaque white, so RGB32 shows exactly what an alpha canvas
-    // would, blits frames as plain row copies and becomes a pixmap without conversion.
-    QImage canvas(canvasSize, QImage::Format_RGB32);
-    if (canvas.isNull()) {
-        qWarning() << "getGroupPixmap: canvas too large" << canvasSize;
-        return QImage();
-    }
-    canvas.fill(Qt::white);
-    QPainter painter(&canvas);
+    QVector<Part> parts;
+    parts.reserve(n);
     for (int i = 0; i < n; ++i) {
         const QPixmap& pixmap = pixmaps.at(i);
         if (pixmap.isNull()) {
@@ -302,20 +380,42 @@ QImage PreviewWidget::composeImages(const QList<QPixmap>& pixmaps, int layoutTyp
         if (layoutType == Grid) {
             const int x = (i % c) * (X >= 1 ? W + X : W);
             const int y = (i / c) * (Y >= 1 ? H + Y : H);
-            painter.drawPixmap(QPoint(x, y), pixmap);
+            addPart(parts, i, pixmap, QPoint(x, y), pixmap.rect());
         } else if (i == 0) {
-            painter.drawPixmap(QPoint(0, 0), pixmap);
+            addPart(parts, i, pixmap, QPoint(0, 0), pixmap.rect());
         } else if (band > 0) {
             const int w = pixmap.width();
             const int h = pixmap.height();
             if (layoutType == Horizontal) {
                 const int x = X >= 1 ? i * (W + X) : qAbs(qMin(X, 0)) + i * band;
-                drawPart(painter, QPoint(x, 0), pixmap, QRect(w - band, 0, band, h));
+                addPart(parts, i, pixmap, QPoint(x, 0), QRect(w - band, 0, band, h));
             } else {
                 const int y = Y >= 1 ? i * (H + Y) : qAbs(qMin(Y, 0)) + i * band;
-                drawPart(painter, QPoint(0, y), pixmap, QRect(0, h - band, w, band));
+                addPart(parts, i, pixmap, QPoint(0, y), QRect(0, h - band, w, band));
             }
         }
+    }
+
+    // The canvas is opaque white, so RGB32 shows exactly what an alpha canvas
+    // would, takes frames as plain row copies and becomes a pixmap without conversion.
+    QImage canvas = acquireCanvas(canvasSize);
+    if (canvas.isNull()) {
+        qWarning() << "getGroupPixmap: canvas too large" << canvasSize;
+        return QImage();
+    }
+    // White goes only where no opaque frame will be drawn: each pixel is written once.
+    QRegion background(canvas.rect());
+    for (const Part& part : qAsConst(parts)) {
+        if (!pixmaps.at(part.index).hasAlphaChannel()) {
+            background -= QRect(part.at, part.source.size());
+        }
+    }
+    QPainter painter(&canvas);
+    for (const QRect& rect : background) {
+        painter.fillRect(rect, Qt::white);
+    }
+    for (const Part& part : qAsConst(parts)) {
+        painter.drawPixmap(part.at, pixmaps.at(part.index), part.source);
     }
     painter.end();
     return canvas;
