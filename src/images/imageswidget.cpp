@@ -66,6 +66,15 @@ ImagesWidget::ImagesWidget(QWidget* parent)
     m_countLabel->setText(tr("%n frame(s)", nullptr, 0));
 }
 
+ImagesWidget::~ImagesWidget()
+{
+    // The shared selection must never point at items that are gone.
+    QList<ImageItem*>& selected = GlobalManager::instance()->selectedImages();
+    for (ImageItem* item : qAsConst(m_items)) {
+        selected.removeAll(item);
+    }
+}
+
 SaveImageThread* ImagesWidget::saveImageThread() const
 {
     return m_exporter->saveThread();

@@ -27,6 +27,7 @@ class ImagesWidget : public QWidget
     Q_OBJECT
 public:
     explicit ImagesWidget(QWidget* parent = nullptr);
+    ~ImagesWidget() override;
 
     void addImage(const QVariant& value);
     void addImage(const AppConfig::CaptureData& data);

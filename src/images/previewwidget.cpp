@@ -238,26 +238,26 @@ QString PreviewWidget::propertyKey(int type)
 
 void PreviewWidget::initPropertyItems()
 {
-    struct Spec {
+    struct Field {
         int type;
         QString title;
         QString unit;
         QString defaultValue;
     };
-    const QList<Spec> specs{{PropertyItem::Width, tr("Width"), QStringLiteral("px"), QStringLiteral("0")},
+    const QList<Field> fields{{PropertyItem::Width, tr("Width"), QStringLiteral("px"), QStringLiteral("0")},
                             {PropertyItem::Height, tr("Height"), QStringLiteral("px"), QStringLiteral("0")},
                             {PropertyItem::XSpace, tr("X space"), QStringLiteral("px"), QStringLiteral("0")},
                             {PropertyItem::YSpace, tr("Y space"), QStringLiteral("px"), QStringLiteral("0")},
                             {PropertyItem::Scale, tr("Scale"), QStringLiteral("%"), QStringLiteral("100")},
                             {PropertyItem::Column, tr("Column"), QString(), QStringLiteral("2")}};
     GlobalManager* manager = GlobalManager::instance();
-    for (const Spec& spec : specs) {
-        auto* item = new PropertyItem(spec.type, spec.title, spec.unit, this);
-        const QString key = propertyKey(spec.type);
-        const QString value = manager->readInAppSettings(key, spec.defaultValue).toString();
+    for (const Field& field : fields) {
+        auto* item = new PropertyItem(field.type, field.title, field.unit, this);
+        const QString key = propertyKey(field.type);
+        const QString value = manager->readInAppSettings(key, field.defaultValue).toString();
         item->setText(value);
         manager->saveInAppSettings(key, value);
-        m_propertyItems.insert(spec.type, item);
+        m_propertyItems.insert(field.type, item);
         connect(item, &PropertyItem::valueChangedSignal, this, &PreviewWidget::propertyChangedHandle);
         connect(item, &PropertyItem::editFinishedSignal, this, [this](int type) {
             // Width and height snap to what the whole-percent scale really gives.
