@@ -11,15 +11,18 @@
 #include <QDateTime>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QDebug>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QFontMetrics>
 #include <QFontMetricsF>
+#include <QImageWriter>
 #include <QPainter>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSaveFile>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTextCodec>
@@ -164,7 +167,8 @@ QString GlobalManager::getTempPath(const QString& name) const
 
 QString GlobalManager::getDirByCheck(const QString& path) const
 {
-    if (!path.isEmpty() && (QDir(path).exists() || QDir().mkpath(path))) {
+    // A folder that exists but refuses writes would lose the export: fall back as well.
+    if (isUsableDir(path)) {
         return path;
     }
     return getWritePath(AppConfig::APP_NAME);
@@ -404,8 +408,65 @@ void GlobalManager::httpRequestError(QString key, const QJsonObject& object, con
 
 // ---------------------------------------------------------------- export helpers
 
+namespace {
+// Largest side each encoder accepts; beyond it the writer fails with no reason.
+constexpr int kWebpMaxSide = 16383;
+constexpr int kJpegMaxSide = 65500;
+
+void paintWaterMark(QPaintDevice* device, int width, int height, const QString& text)
+{
+    QPainter painter(device);
+    const int s = qMin(width, height);
+    QFont font1(QStringLiteral("Microsoft YaHei"));
+    font1.setPointSize(qMax(1, static_cast<int>(s * 0.15)));
+    painter.setFont(font1);
+    painter.setOpacity(0.6);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform
+                           | QPainter::TextAntialiasing);
+    const QFontMetricsF metrics1(font1);
+    const double tw = metrics1.horizontalAdvance(text);
+    const double th = metrics1.height();
+
+    const QString tagline = QStringLiteral("Get the gleam moments in video");
+    QFont font2(QStringLiteral("Microsoft YaHei"));
+    font2.setPointSize(GlobalManager::getFontSizeByTextAndWidth(tagline, static_cast<int>(tw)));
+
+    QPen pen(QColor(255, 255, 255));
+    pen.setWidth(1);
+    painter.setPen(pen);
+    painter.setBrush(QBrush(QColor(255, 255, 255), Qt::SolidPattern));
+
+    const double x1 = (width - tw) * 0.5;
+    const double y1 = (th * 0.5 + height) * 0.5;
+    painter.drawText(QPointF(x1, y1), text);
+
+    painter.setFont(font2);
+    const QFontMetricsF metrics2(font2);
+    const double x2 = (width - metrics2.horizontalAdvance(tagline)) * 0.5;
+    painter.drawText(QPointF(x2, y1 + th / 2.5), tagline);
+    painter.end();
+}
+} // namespace
+
+bool GlobalManager::isUsableDir(const QString& path)
+{
+    if (path.isEmpty()) {
+        return false;
+    }
+    if (!QDir(path).exists() && !QDir().mkpath(path)) {
+        return false;
+    }
+    return QFileInfo(path).isWritable();
+}
+
 QString GlobalManager::saveImage(const QPixmap& pixmap, const QString& dir, const QString& name,
-                                 const QString& ext)
+                                 const QString& ext, QString* error)
+{
+    return saveImage(pixmap.toImage(), dir, name, ext, error);
+}
+
+QString GlobalManager::saveImage(const QImage& image, const QString& dir, const QString& name,
+                                 const QString& ext, QString* error)
 {
     QString path = QStringLiteral("%1/%2").arg(dir, name);
     QString format = ext;
@@ -419,8 +480,60 @@ QString GlobalManager::saveImage(const QPixmap& pixmap, const QString& dir, cons
         path = QStringLiteral("%1/%2(%3).%4").arg(dir, stem).arg(n).arg(format);
         ++n;
     }
-    if (!pixmap.save(path, format.toUtf8().constData(), -1)) {
-        qWarning() << "saveImage failed:" << path;
+
+    auto fail = [&](const QString& reason) {
+        qWarning() << "saveImage failed:" << path << reason;
+        if (error) {
+            *error = reason;
+        }
+        return QString();
+    };
+
+    const QByteArray codec = format.toLower().toUtf8();
+    const QString upper = format.toUpper();
+    if (image.isNull()) {
+        return fail(tr("The picture is empty."));
+    }
+    if (!QImageWriter::supportedImageFormats().contains(codec)) {
+        return fail(tr("This system cannot write %1 pictures. Choose PNG.").arg(upper));
+    }
+    const int longest = qMax(image.width(), image.height());
+    const bool tall = image.height() >= image.width();
+    if (codec == "webp" && longest > kWebpMaxSide) {
+        return fail((tall ? tr("The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at "
+                               "most %3 pixels on a side. Choose PNG or a smaller scale.")
+                          : tr("The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at "
+                               "most %3 pixels on a side. Choose PNG or a smaller scale."))
+                        .arg(image.width())
+                        .arg(image.height())
+                        .arg(kWebpMaxSide));
+    }
+    if ((codec == "jpg" || codec == "jpeg") && longest > kJpegMaxSide) {
+        return fail((tall ? tr("The picture is too tall for JPG: %1x%2 pixels, and JPG holds at "
+                               "most %3 pixels on a side. Choose PNG or a smaller scale.")
+                          : tr("The picture is too wide for JPG: %1x%2 pixels, and JPG holds at "
+                               "most %3 pixels on a side. Choose PNG or a smaller scale."))
+                        .arg(image.width())
+                        .arg(image.height())
+                        .arg(kJpegMaxSide));
+    }
+
+    // Written beside the target and renamed on success, so a failed write never
+    // leaves a truncated picture that looks like a result.
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        return fail(tr("Cannot create the file: %1").arg(file.errorString()));
+    }
+    // Default quality for every format: a quality for PNG would only lower its compression.
+    QImageWriter writer(&file, codec);
+    if (!writer.write(image)) {
+        const QString reason = file.error() != QFileDevice::NoError ? file.errorString()
+                                                                    : writer.errorString();
+        file.cancelWriting();
+        return fail(tr("Writing the picture failed: %1").arg(reason));
+    }
+    if (!file.commit()) {
+        return fail(tr("Writing the picture failed: %1").arg(file.errorString()));
     }
     return path;
 }
@@ -430,63 +543,71 @@ void GlobalManager::changePixmapWithWaterMark(QPixmap& pixmap, const QString& te
     if (pixmap.isNull()) {
         return;
     }
-    QPainter painter(&pixmap);
-    const int s = qMin(pixmap.width(), pixmap.height());
-    QFont font1(QStringLiteral("Microsoft YaHei"));
-    font1.setPointSize(qMax(1, static_cast<int>(s * 0.15)));
-    painter.setFont(font1);
-    painter.setOpacity(0.6);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform
-                           | QPainter::TextAntialiasing);
-    const QFontMetricsF metrics1(font1);
-    const double tw = metrics1.horizontalAdvance(text);
-    const double th = metrics1.height();
-
-    const QString tagline = QStringLiteral("Get the gleam moments in video");
-    QFont font2(QStringLiteral("Microsoft YaHei"));
-    font2.setPointSize(getFontSizeByTextAndWidth(tagline, static_cast<int>(tw)));
-
-    QPen pen(QColor(255, 255, 255));
-    pen.setWidth(1);
-    painter.setPen(pen);
-    painter.setBrush(QBrush(QColor(255, 255, 255), Qt::SolidPattern));
-
-    const double x1 = (pixmap.width() - tw) * 0.5;
-    const double y1 = (th * 0.5 + pixmap.height()) * 0.5;
-    painter.drawText(QPointF(x1, y1), text);
-
-    painter.setFont(font2);
-    const QFontMetricsF metrics2(font2);
-    const double x2 = (pixmap.width() - metrics2.horizontalAdvance(tagline)) * 0.5;
-    painter.drawText(QPointF(x2, y1 + th / 2.5), tagline);
-    painter.end();
+    paintWaterMark(&pixmap, pixmap.width(), pixmap.height(), text);
 }
 
-QStringList GlobalManager::selectOutPutFilesByTempList(const QStringList& tempPaths)
+void GlobalManager::changeImageWithWaterMark(QImage& image, const QString& text)
+{
+    if (image.isNull()) {
+        return;
+    }
+    paintWaterMark(&image, image.width(), image.height(), text);
+}
+
+QStringList GlobalManager::selectOutPutFilesByTempList(const QStringList& tempPaths, QStringList* errors)
 {
     QString dest = readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString();
-    if (dest.isEmpty() || !(QDir(dest).exists() || QDir().mkpath(dest))) {
+    if (!isUsableDir(dest)) {
         dest = getWritePath(AppConfig::APP_NAME);
     }
-    QStringList collected;
-    for (const QString& temp : tempPaths) {
+    const QString fallback = getWritePath(AppConfig::APP_NAME);
+
+    auto moveInto = [](const QString& temp, const QString& dir) -> QString {
         const QFileInfo info(temp);
-        QString target = QStringLiteral("%2/%1.%3").arg(info.completeBaseName(), dest, info.suffix());
+        if (QDir(info.absolutePath()) == QDir(dir)) {
+            // Already written into the output folder under a free name.
+            return info.absoluteFilePath();
+        }
+        QString target = QStringLiteral("%2/%1.%3").arg(info.completeBaseName(), dir, info.suffix());
         int n = 1;
         while (QFileInfo::exists(target)) {
             target = QStringLiteral("%1/%2(%3).%4")
-                         .arg(dest, info.completeBaseName())
+                         .arg(dir, info.completeBaseName())
                          .arg(n)
                          .arg(info.suffix());
             ++n;
         }
-        if (QFile::copy(temp, target)) {
-            QFile::remove(temp);
-            collected.append(target);
-        } else {
-            // Keep the temporary file: it is the only copy of the picture.
-            qWarning() << "selectOutPutFilesByTempList: copy failed" << temp << target;
+        // A rename within one file system, a copy and remove across them.
+        return QFile::rename(temp, target) ? target : QString();
+    };
+
+    QStringList collected;
+    for (const QString& temp : tempPaths) {
+        if (!QFileInfo::exists(temp)) {
+            qWarning() << "selectOutPutFilesByTempList: missing" << temp;
+            if (errors) {
+                errors->append(tr("%1: the file has vanished before it could be moved to the "
+                                  "output folder.")
+                                   .arg(QFileInfo(temp).fileName()));
+            }
+            continue;
         }
+        QString target = moveInto(temp, dest);
+        if (target.isEmpty() && dest != fallback) {
+            target = moveInto(temp, fallback);
+        }
+        if (target.isEmpty()) {
+            // Keep the temporary file: it is the only copy of the picture.
+            qWarning() << "selectOutPutFilesByTempList: move failed" << temp << dest;
+            if (errors) {
+                errors->append(tr("%1 could not be moved to the output folder %2; it was kept at %3.")
+                                   .arg(QFileInfo(temp).fileName(), QDir::toNativeSeparators(dest),
+                                        QDir::toNativeSeparators(temp)));
+            }
+            collected.append(temp);
+            continue;
+        }
+        collected.append(target);
     }
     openFilesBySelect(collected);
     return collected;
@@ -508,26 +629,32 @@ void GlobalManager::openFilesBySelect(const QStringList& paths)
     const QString script = QStringLiteral("/tmp/selectfile.sh");
     writeFileContent(script, command);
     qDebug() << "openfileselected:" << command;
-    QProcess::execute(QStringLiteral("/bin/sh"), {script});
+    QProcess::startDetached(QStringLiteral("/bin/sh"), {script});
 #else
     QStringList uris;
     for (const QString& path : paths) {
         uris.append(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
     }
     qDebug() << "openfileselected:" << uris;
+    const QUrl folder = QUrl::fromLocalFile(QFileInfo(paths.first()).absolutePath());
     QDBusConnection bus = QDBusConnection::sessionBus();
-    if (bus.isConnected()) {
-        QDBusMessage call = QDBusMessage::createMethodCall(
-            QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
-            QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
-        call << uris << QString();
-        const QDBusMessage reply = bus.call(call, QDBus::Block, 3000);
-        if (reply.type() == QDBusMessage::ReplyMessage) {
-            return;
-        }
-        qDebug() << "openfileselected: file manager unavailable:" << reply.errorMessage();
+    if (!bus.isConnected()) {
+        QDesktopServices::openUrl(folder);
+        return;
     }
-    // No file manager service: open the folder itself, quietly if that fails too.
-    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(paths.first()).absolutePath()));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
+        QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
+    call << uris << QString();
+    // Asynchronous: a file manager that is slow to start must not freeze the window.
+    auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call, 5000), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [folder](QDBusPendingCallWatcher* w) {
+        if (w->isError()) {
+            // No file manager service: open the folder itself, quietly if that fails too.
+            qDebug() << "openfileselected: file manager unavailable:" << w->error().message();
+            QDesktopServices::openUrl(folder);
+        }
+        w->deleteLater();
+    });
 #endif
 }

@@ -2,6 +2,7 @@
 #define GLOBALMANAGER_H
 
 #include <QFileInfo>
+#include <QImage>
 #include <QJsonObject>
 #include <QList>
 #include <QMap>
@@ -68,12 +69,19 @@ public:
     // Captured image selection, rebuilt by the image strip
     QList<ImageItem*>& selectedImages() { return m_selectedImages; }
 
-    // Export helpers
+    // Export helpers. saveImage returns the path written, or an empty string with
+    // the reason in *error; selectOutPutFilesByTempList lists in *errors every
+    // picture it could not move (the picture then stays where it was).
     QString saveImage(const QPixmap& pixmap, const QString& dir, const QString& name,
-                      const QString& ext);
+                      const QString& ext, QString* error = nullptr);
+    QString saveImage(const QImage& image, const QString& dir, const QString& name,
+                      const QString& ext, QString* error = nullptr);
     static void changePixmapWithWaterMark(QPixmap& pixmap, const QString& text);
-    QStringList selectOutPutFilesByTempList(const QStringList& tempPaths);
+    static void changeImageWithWaterMark(QImage& image, const QString& text);
+    QStringList selectOutPutFilesByTempList(const QStringList& tempPaths,
+                                            QStringList* errors = nullptr);
     void openFilesBySelect(const QStringList& paths);
+    static bool isUsableDir(const QString& path);
 
     // Licensing state
     bool isRegister() const { return m_isRegister; }

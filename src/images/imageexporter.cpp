@@ -1,0 +1,109 @@
+#include "imageexporter.h"
+
+#include "appconfig.h"
+#include "globalmanager.h"
+#include "saveimagethread.h"
+
+#include <QDebug>
+#include <QMessageBox>
+#include <QMetaMethod>
+#include <QWidget>
+
+ImageExporter::ImageExporter(QWidget* owner)
+    : QObject(owner)
+    , m_owner(owner)
+    , m_thread(new SaveImageThread(this))
+{
+    connect(m_thread, &SaveImageThread::saveStart, this, &ImageExporter::exportStarted);
+    connect(m_thread, &SaveImageThread::saveProgress, this, &ImageExporter::exportProgress);
+    connect(m_thread, &SaveImageThread::saveError, this, [this](const QString& name, const QString& reason) {
+        m_errors.append(QStringLiteral("%1: %2").arg(name, reason));
+    });
+    connect(m_thread, &SaveImageThread::saveFinished, this, &ImageExporter::saveFinishedHandle);
+}
+
+bool ImageExporter::start(const QList<QPixmap>& pixmaps)
+{
+    if (isRunning() || pixmaps.isEmpty()) {
+        return false;
+    }
+    GlobalManager* manager = GlobalManager::instance();
+    const QString folder = manager->getDirByCheck(
+        manager->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString() + QStringLiteral("/tmp"));
+    // saveFinished is queued from inside run(): the thread may still be on its
+    // way out when the next export starts.
+    m_thread->wait();
+    m_busy = true;
+    m_errors.clear();
+    m_pending.clear();
+    m_thread->setPixmapList(pixmaps, folder);
+    m_thread->start(QThread::InheritPriority);
+    return true;
+}
+
+bool ImageExporter::isRunning() const
+{
+    return m_busy;
+}
+
+void ImageExporter::saveFinishedHandle(const QStringList& paths)
+{
+    m_busy = false;
+    emit writingFinished();
+    GlobalManager* manager = GlobalManager::instance();
+    manager->saveInAppSettings(AppConfig::EXPORT_FIRST_IN_APP, true);
+    m_pending = paths;
+    if (paths.isEmpty()) {
+        // Nothing was written: no guide and nothing to reveal, only the reasons.
+        moveAndReveal();
+        return;
+    }
+    const bool guideShown = manager->readInAppSettings(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT, false).toBool();
+    if (manager->isRegister() || guideShown) {
+        moveAndReveal();
+        return;
+    }
+    manager->saveInAppSettings(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT, true);
+    if (!isSignalConnected(QMetaMethod::fromSignal(&ImageExporter::showRegisterGuide))) {
+        // No guide to show: the pictures must not wait for a dialog that never comes.
+        moveAndReveal();
+        return;
+    }
+    m_waitingForGuide = true;
+    m_busy = true;
+    emit showRegisterGuide();
+}
+
+void ImageExporter::registerGuideClosedHandle()
+{
+    if (!m_waitingForGuide) {
+        return;
+    }
+    m_waitingForGuide = false;
+    m_busy = false;
+    moveAndReveal();
+}
+
+void ImageExporter::moveAndReveal()
+{
+    QStringList errors = m_errors;
+    QStringList files;
+    if (!m_pending.isEmpty()) {
+        files = GlobalManager::instance()->selectOutPutFilesByTempList(m_pending, &errors);
+    }
+    m_pending.clear();
+    m_errors.clear();
+    if (!errors.isEmpty()) {
+        qWarning() << "export failures:" << errors;
+        if (m_showMessages && m_owner) {
+            const QString text = files.isEmpty()
+                                     ? tr("No picture was exported.")
+                                     : tr("%n picture(s) were exported, but some failed.", nullptr, files.size());
+            auto* box = new QMessageBox(QMessageBox::Warning, tr("Export"), text, QMessageBox::Ok, m_owner);
+            box->setInformativeText(errors.join(QLatin1Char('\n')));
+            box->setAttribute(Qt::WA_DeleteOnClose);
+            box->open();
+        }
+    }
+    emit exportFinished(files, errors);
+}

@@ -1,0 +1,276 @@
+#include "imageswidget.h"
+
+#include "globalmanager.h"
+#include "imageexporter.h"
+#include "imageitem.h"
+#include "imagelistviewdialog.h"
+#include "saveimagethread.h"
+
+#include <QCheckBox>
+#include <QDebug>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+ImagesWidget::ImagesWidget(QWidget* parent)
+    : QWidget(parent)
+    , m_scrollArea(new QScrollArea(this))
+    , m_stripWidget(new QWidget())
+    , m_stripLayout(new QHBoxLayout(m_stripWidget))
+    , m_countLabel(new QLabel(this))
+    , m_selectAllBox(new QCheckBox(tr("Select all"), this))
+    , m_showButton(new QPushButton(tr("List view"), this))
+    , m_clearButton(new QPushButton(tr("Clear"), this))
+    , m_applyStyleButton(new QPushButton(tr("Apply Current Style"), this))
+    , m_exporter(new ImageExporter(this))
+{
+    setObjectName(QStringLiteral("images_widget"));
+    setAttribute(Qt::WA_StyledBackground, true);
+
+    m_stripLayout->setContentsMargins(AppConfig::rate(6), AppConfig::rate(6), AppConfig::rate(6), AppConfig::rate(6));
+    m_stripLayout->setSpacing(AppConfig::rate(8));
+    m_stripLayout->addStretch(1);
+    m_scrollArea->setWidget(m_stripWidget);
+    m_scrollArea->setWidgetResizable(true);
+    m_scrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scrollArea->setFrameShape(QFrame::NoFrame);
+
+    auto* header = new QHBoxLayout();
+    header->addWidget(m_selectAllBox);
+    header->addWidget(m_countLabel);
+    header->addStretch(1);
+    header->addWidget(m_applyStyleButton);
+    header->addWidget(m_showButton);
+    header->addWidget(m_clearButton);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(AppConfig::rate(6), AppConfig::rate(4), AppConfig::rate(6), AppConfig::rate(4));
+    layout->setSpacing(AppConfig::rate(4));
+    layout->addLayout(header);
+    layout->addWidget(m_scrollArea, 1);
+
+    connect(m_selectAllBox, &QCheckBox::clicked, this, &ImagesWidget::selectAll);
+    connect(m_showButton, &QPushButton::clicked, this, &ImagesWidget::showButtonClickedHandle);
+    connect(m_clearButton, &QPushButton::clicked, this, &ImagesWidget::clearButtonClickedHandle);
+    connect(m_applyStyleButton, &QPushButton::clicked, this, &ImagesWidget::applyStyleSignal);
+    connect(m_exporter, &ImageExporter::showRegisterGuide, this, &ImagesWidget::showRegisterGuide);
+    connect(m_exporter, &ImageExporter::exportFinished, this, &ImagesWidget::exportFinishedSignal);
+
+    initListViewDialog();
+    m_countLabel->setText(tr("%n frame(s)", nullptr, 0));
+}
+
+ImagesWidget::~ImagesWidget()
+{
+    // The shared selection must never point at items that are gone.
+    QList<ImageItem*>& selected = GlobalManager::instance()->selectedImages();
+    for (ImageItem* item : qAsConst(m_items)) {
+        selected.removeAll(item);
+    }
+}
+
+SaveImageThread* ImagesWidget::saveImageThread() const
+{
+    return m_exporter->saveThread();
+}
+
+void ImagesWidget::addImage(const QVariant& value)
+{
+    addImage(value.value<AppConfig::CaptureData>());
+}
+
+void ImagesWidget::addImage(const AppConfig::CaptureData& data)
+{
+    qDebug() << "addImage:" << data.time << data.frame;
+    auto* item = new ImageItem(m_stripWidget);
+    item->changeImageByPixmap(data.pixmap);
+    item->setCaptureTime(data.time);
+    item->setFrame(data.frame);
+    item->setSelect(true);
+
+    const int width = AppConfig::rate(150);
+    const int pixmapWidth = data.pixmap.width();
+    if (pixmapWidth <= 0) {
+        qWarning() << "addImage: empty frame";
+    }
+    const int height = pixmapWidth > 0
+                           ? static_cast<int>(data.pixmap.height() * (width / static_cast<float>(pixmapWidth)))
+                           : 0;
+    item->setFixedSize(width, height);
+
+    // Before the trailing stretch, so the strip stays packed to the left.
+    m_stripLayout->insertWidget(m_stripLayout->count() - 1, item);
+    m_items.append(item);
+
+    QTimer::singleShot(100, this, [this]() {
+        m_scrollArea->horizontalScrollBar()->setValue(m_scrollArea->horizontalScrollBar()->maximum());
+    });
+
+    connect(item, &ImageItem::selectedSignal, this, [this]() {
+        checkSelectImages();
+        refreshListView();
+    });
+    connect(item, &ImageItem::deleteSignal, this, [this, item]() {
+        removeItem(item);
+        checkSelectImages();
+        refreshListView();
+    });
+    checkSelectImages();
+    refreshListView();
+}
+
+void ImagesWidget::checkSelectImages()
+{
+    QList<ImageItem*>& selected = GlobalManager::instance()->selectedImages();
+    selected.clear();
+    bool all = !m_items.isEmpty();
+    for (ImageItem* item : qAsConst(m_items)) {
+        if (item->isSelect()) {
+            selected.append(item);
+        } else {
+            all = false;
+        }
+    }
+    m_selectAllBox->setChecked(all);
+    m_countLabel->setText(tr("%n frame(s)", nullptr, m_items.size()));
+    GlobalManager::instance()->emitEvent(AppConfig::SELECT_IMAGE_COMPLETE, QString());
+}
+
+void ImagesWidget::selectAll(bool selected)
+{
+    for (ImageItem* item : qAsConst(m_items)) {
+        const bool blocked = item->blockSignals(true);
+        item->setSelect(selected);
+        item->blockSignals(blocked);
+    }
+    checkSelectImages();
+}
+
+void ImagesWidget::updateByPixmapList(const QList<QPixmap>& pixmaps)
+{
+    for (int i = 0; i < m_items.size() && i < pixmaps.size(); ++i) {
+        m_items.at(i)->changeImageByPixmap(pixmaps.at(i));
+    }
+    checkSelectImages();
+    refreshListView();
+}
+
+void ImagesWidget::removeItem(ImageItem* item)
+{
+    if (!m_items.removeOne(item)) {
+        return;
+    }
+    m_stripLayout->removeWidget(item);
+    item->hide();
+    // Later: the item's own button is the sender of the signal that led here.
+    item->deleteLater();
+}
+
+void ImagesWidget::clearButtonClickedHandle()
+{
+    m_listViewDialog->clearImageList();
+    const QList<ImageItem*> items = m_items;
+    for (ImageItem* item : items) {
+        removeItem(item);
+    }
+    m_items.clear();
+    checkSelectImages();
+}
+
+void ImagesWidget::showButtonClickedHandle()
+{
+    m_listViewDialog->showImageList(m_items);
+    m_listViewDialog->show();
+    m_listViewDialog->activateWindow();
+    m_listViewDialog->raise();
+}
+
+void ImagesWidget::updateImageShow()
+{
+    checkSelectImages();
+    m_listViewDialog->showImageList(m_items);
+}
+
+void ImagesWidget::refreshListView()
+{
+    if (m_listViewDialog->isVisible()) {
+        m_listViewDialog->showImageList(m_items);
+    }
+}
+
+void ImagesWidget::clickImageHandle(const QPixmap& pixmap)
+{
+    auto* label = new QLabel();
+    label->setAttribute(Qt::WA_DeleteOnClose);
+    label->setScaledContents(true);
+    label->setPixmap(pixmap);
+    if (QScreen* screen = QGuiApplication::primaryScreen()) {
+        const QSize size = pixmap.size().scaled(screen->availableSize() * 0.8, Qt::KeepAspectRatio);
+        label->resize(size);
+        label->move(screen->availableGeometry().center() - QPoint(size.width() / 2, size.height() / 2));
+    }
+    label->show();
+}
+
+void ImagesWidget::initListViewDialog()
+{
+    m_listViewDialog = new ImageListViewDialog(this);
+    connect(m_listViewDialog, &ImageListViewDialog::deleteImage, this, [this](ImageItem* item) {
+        removeItem(item);
+        checkSelectImages();
+    });
+    connect(m_listViewDialog, &ImageListViewDialog::selectImage, this, [this](bool selected, ImageItem* item) {
+        if (m_items.contains(item)) {
+            const bool blocked = item->blockSignals(true);
+            item->setSelect(selected);
+            item->blockSignals(blocked);
+        }
+        checkSelectImages();
+    });
+    connect(m_listViewDialog, &ImageListViewDialog::selectAllSignal, this, &ImagesWidget::selectAll);
+    connect(m_listViewDialog, &ImageListViewDialog::deleteAllSignal, this, &ImagesWidget::clearButtonClickedHandle);
+    connect(m_listViewDialog, &ImageListViewDialog::exportButtonTap, this, &ImagesWidget::exportSelectedHandle);
+
+    connect(m_exporter, &ImageExporter::exportStarted, m_listViewDialog, [this]() {
+        m_listViewDialog->showProgressBar(true);
+        m_listViewDialog->setButtonEnabled(false);
+    });
+    connect(m_exporter, &ImageExporter::exportProgress, m_listViewDialog, &ImageListViewDialog::changeProgress);
+    connect(m_exporter, &ImageExporter::writingFinished, m_listViewDialog, [this]() {
+        m_listViewDialog->showProgressBar(false);
+        m_listViewDialog->setButtonEnabled(true);
+    });
+}
+
+void ImagesWidget::exportSelectedHandle(const QString& ext)
+{
+    Q_UNUSED(ext)
+    QList<QPixmap> pixmaps;
+    for (ImageItem* item : GlobalManager::instance()->selectedImages()) {
+        pixmaps.append(item->getPixmap());
+    }
+    if (pixmaps.isEmpty()) {
+        emit exportFinishedSignal({}, {tr("No frame is selected.")});
+        return;
+    }
+    m_exporter->start(pixmaps);
+}
+
+void ImagesWidget::registerGuideClosedHandle()
+{
+    m_exporter->registerGuideClosedHandle();
+}
+
+void ImagesWidget::quitAppFinishEvent()
+{
+    m_listViewDialog->hide();
+    m_listViewDialog->deleteLater();
+    m_listViewDialog = nullptr;
+    saveImageThread()->wait();
+}

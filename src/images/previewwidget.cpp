@@ -1,0 +1,581 @@
+#include "previewwidget.h"
+
+#include "appconfig.h"
+#include "globalmanager.h"
+#include "imagecanvas.h"
+#include "imageexporter.h"
+#include "imageitem.h"
+#include "imageviewdialog.h"
+#include "propertyitem.h"
+#include "savefilebar.h"
+#include "saveimagethread.h"
+
+#include <QButtonGroup>
+#include <QDebug>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QRegion>
+#include <QVBoxLayout>
+#include <QVector>
+
+#include <cstdlib>
+#include <limits>
+
+namespace {
+// Canvas memory is recycled: a fresh buffer of a few hundred megabytes costs more
+// in page faults than the whole stitch. The last released canvas is kept as a
+// spare and reused when it fits, so recomposing (every property edit) writes
+// into memory that is already mapped. The pool is never destroyed, so a canvas
+// released during exit still finds it.
+struct CanvasBuffer {
+    uchar* data;
+    qsizetype size;
+};
+
+struct CanvasPool {
+    QMutex mutex;
+    CanvasBuffer* spare = nullptr;
+};
+
+CanvasPool* canvasPool()
+{
+    static auto* pool = new CanvasPool();
+    return pool;
+}
+
+void releaseCanvas(void* info)
+{
+    auto* buffer = static_cast<CanvasBuffer*>(info);
+    CanvasPool* pool = canvasPool();
+    CanvasBuffer* old = nullptr;
+    {
+        QMutexLocker locker(&pool->mutex);
+        old = pool->spare;
+        pool->spare = buffer;
+    }
+    if (old) {
+        std::free(old->data);
+        delete old;
+    }
+}
+
+QImage acquireCanvas(const QSize& size)
+{
+    const qsizetype bytesPerLine = qsizetype(size.width()) * 4;
+    const qsizetype bytes = bytesPerLine * size.height();
+    if (size.width() > (std::numeric_limits<int>::max() / 4) || bytes / bytesPerLine != size.height()) {
+        return QImage();
+    }
+    CanvasPool* pool = canvasPool();
+    CanvasBuffer* buffer = nullptr;
+    {
+        QMutexLocker locker(&pool->mutex);
+        // A spare much larger than needed is given back rather than kept alive.
+        if (pool->spare && pool->spare->size >= bytes && pool->spare->size <= 2 * bytes) {
+            buffer = pool->spare;
+            pool->spare = nullptr;
+        }
+    }
+    if (!buffer) {
+        {
+            QMutexLocker locker(&pool->mutex);
+            if (pool->spare) {
+                std::free(pool->spare->data);
+                delete pool->spare;
+                pool->spare = nullptr;
+            }
+        }
+        auto* data = static_cast<uchar*>(std::malloc(size_t(bytes)));
+        if (!data) {
+            return QImage();
+        }
+        buffer = new CanvasBuffer{data, bytes};
+    }
+    return QImage(buffer->data, size.width(), size.height(), bytesPerLine, QImage::Format_RGB32, releaseCanvas,
+                  buffer);
+}
+
+// One frame's visible part: `source` (already clipped to the frame) lands at `at`.
+struct Part {
+    int index;
+    QPoint at;
+    QRect source;
+};
+
+// Adds the part `source` of frame `index`, clipped to the frame first: where a
+// band reaches outside a smaller frame the white canvas stays visible.
+void addPart(QVector<Part>& parts, int index, const QPixmap& pixmap, const QPoint& at, const QRect& source)
+{
+    const QRect part = source.intersected(pixmap.rect());
+    if (!part.isEmpty()) {
+        parts.append({index, at + (part.topLeft() - source.topLeft()), part});
+    }
+}
+} // namespace
+
+PreviewWidget::PreviewWidget(QWidget* parent)
+    : QWidget(parent)
+    , m_radioGroup(new QButtonGroup(this))
+    , m_canvas(new ImageCanvas(this))
+    , m_fitButton(new QPushButton(tr("Fit"), this))
+    , m_actualButton(new QPushButton(QStringLiteral("100%"), this))
+    , m_viewButton(new QPushButton(tr("Enlarge"), this))
+    , m_sizeLabel(new QLabel(this))
+    , m_zoomLabel(new QLabel(this))
+    , m_saveFileBar(new SaveFileBar(false, this))
+    , m_progressBar(new QProgressBar(this))
+    , m_exporter(new ImageExporter(this))
+{
+    setObjectName(QStringLiteral("preview_widget"));
+    setAttribute(Qt::WA_StyledBackground, true);
+
+    // Layout choice
+    auto* layoutRow = new QHBoxLayout();
+    layoutRow->setSpacing(AppConfig::rate(12));
+    layoutRow->addWidget(new QLabel(tr("Layout:"), this));
+    const QStringList names{tr("Grid"), tr("Vertical"), tr("Horizontal")};
+    for (int i = 0; i < names.size(); ++i) {
+        auto* radio = new QRadioButton(names.at(i), this);
+        m_radioGroup->addButton(radio, i);
+        layoutRow->addWidget(radio);
+    }
+    layoutRow->addStretch(1);
+    m_radioType = GlobalManager::instance()->readSettings(AppConfig::RADIO_TYPE, 1).toInt();
+    if (m_radioType < Grid || m_radioType > Horizontal) {
+        m_radioType = Vertical;
+    }
+    m_radioGroup->button(m_radioType)->setChecked(true);
+    connect(m_radioGroup, &QButtonGroup::idClicked, this, [this](int id) {
+        setRadioType(id);
+        GlobalManager::instance()->saveSettings(AppConfig::RADIO_TYPE,
+                                                QVariant::fromValue(static_cast<unsigned long>(id)));
+    });
+
+    // Output properties
+    auto* propertyRow = new QHBoxLayout();
+    propertyRow->setSpacing(AppConfig::rate(10));
+    initPropertyItems();
+    for (PropertyItem* item : qAsConst(m_propertyItems)) {
+        propertyRow->addWidget(item);
+    }
+    propertyRow->addStretch(1);
+
+    // Zoom bar
+    m_fitButton->setCheckable(true);
+    m_actualButton->setCheckable(true);
+    m_fitButton->setChecked(true);
+    auto* zoomGroup = new QButtonGroup(this);
+    zoomGroup->addButton(m_fitButton, ImageCanvas::Fit);
+    zoomGroup->addButton(m_actualButton, ImageCanvas::Actual);
+    connect(zoomGroup, &QButtonGroup::idClicked, this, &PreviewWidget::changeZoomHandle);
+    connect(m_canvas, &ImageCanvas::zoomChangedSignal, this, [this](int, double factor) {
+        m_zoomLabel->setText(QStringLiteral("%1%").arg(qRound(factor * 100)));
+    });
+    connect(m_viewButton, &QPushButton::clicked, this, &PreviewWidget::showViewDialogHandle);
+    m_sizeLabel->setObjectName(QStringLiteral("preview_size_label"));
+    auto* zoomRow = new QHBoxLayout();
+    zoomRow->addWidget(m_sizeLabel);
+    zoomRow->addStretch(1);
+    zoomRow->addWidget(m_zoomLabel);
+    zoomRow->addWidget(m_fitButton);
+    zoomRow->addWidget(m_actualButton);
+    zoomRow->addWidget(m_viewButton);
+
+    m_progressBar->setTextVisible(false);
+    m_progressBar->setFixedHeight(AppConfig::rate(4));
+    m_progressBar->hide();
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(AppConfig::rate(10), AppConfig::rate(10), AppConfig::rate(10), AppConfig::rate(4));
+    layout->setSpacing(AppConfig::rate(6));
+    layout->addLayout(layoutRow);
+    layout->addLayout(propertyRow);
+    layout->addWidget(m_canvas, 1);
+    layout->addLayout(zoomRow);
+    layout->addWidget(m_progressBar);
+    layout->addWidget(m_saveFileBar);
+
+    connect(m_saveFileBar, &SaveFileBar::exportButtonTap, this, &PreviewWidget::exportButtonClickHandle);
+    connect(m_exporter, &ImageExporter::exportStarted, this, [this]() { setExporting(true); });
+    connect(m_exporter, &ImageExporter::exportProgress, this, [this](int index, int total) {
+        m_progressBar->setRange(0, total);
+        m_progressBar->setValue(index + 1);
+    });
+    connect(m_exporter, &ImageExporter::writingFinished, this, [this]() { setExporting(false); });
+    connect(m_exporter, &ImageExporter::showRegisterGuide, this, &PreviewWidget::showRegisterGuide);
+    connect(m_exporter, &ImageExporter::exportFinished, this,
+            [this](const QStringList& files, const QStringList& errors) {
+                qDebug() << "export image:" << files;
+                emit exportFinishedSignal(files, errors);
+            });
+    updatePropertyEnabled();
+    showImage();
+}
+
+QString PreviewWidget::propertyKey(int type)
+{
+    switch (type) {
+    case PropertyItem::Width:
+        return AppConfig::PROPERTY_WIDTH;
+    case PropertyItem::Height:
+        return AppConfig::PROPERTY_HEIGHT;
+    case PropertyItem::XSpace:
+        return AppConfig::PROPERTY_X_SPACE;
+    case PropertyItem::YSpace:
+        return AppConfig::PROPERTY_Y_SPACE;
+    case PropertyItem::Scale:
+        return AppConfig::PROPERTY_SCALE;
+    default:
+        return AppConfig::PROPERTY_COLUMN;
+    }
+}
+
+void PreviewWidget::initPropertyItems()
+{
+    struct Field {
+        int type;
+        QString title;
+        QString unit;
+        QString defaultValue;
+    };
+    const QList<Field> fields{{PropertyItem::Width, tr("Width"), QStringLiteral("px"), QStringLiteral("0")},
+                            {PropertyItem::Height, tr("Height"), QStringLiteral("px"), QStringLiteral("0")},
+                            {PropertyItem::XSpace, tr("X space"), QStringLiteral("px"), QStringLiteral("0")},
+                            {PropertyItem::YSpace, tr("Y space"), QStringLiteral("px"), QStringLiteral("0")},
+                            {PropertyItem::Scale, tr("Scale"), QStringLiteral("%"), QStringLiteral("100")},
+                            {PropertyItem::Column, tr("Column"), QString(), QStringLiteral("2")}};
+    GlobalManager* manager = GlobalManager::instance();
+    for (const Field& field : fields) {
+        auto* item = new PropertyItem(field.type, field.title, field.unit, this);
+        const QString key = propertyKey(field.type);
+        const QString value = manager->readInAppSettings(key, field.defaultValue).toString();
+        item->setText(value);
+        manager->saveInAppSettings(key, value);
+        m_propertyItems.insert(field.type, item);
+        connect(item, &PropertyItem::valueChangedSignal, this, &PreviewWidget::propertyChangedHandle);
+        connect(item, &PropertyItem::editFinishedSignal, this, [this](int type) {
+            // Width and height snap to what the whole-percent scale really gives.
+            if (type == PropertyItem::Width || type == PropertyItem::Height) {
+                initScaleProperty();
+            }
+        });
+    }
+}
+
+int PreviewWidget::propertyValue(int type) const
+{
+    const PropertyItem* item = m_propertyItems.value(type);
+    return item ? item->getValue() : 0;
+}
+
+void PreviewWidget::propertyChangedHandle(int type, const QString& text)
+{
+    GlobalManager* manager = GlobalManager::instance();
+    manager->saveInAppSettings(propertyKey(type), text);
+    const QSize size = m_groupPixmap.isNull() ? QSize() : m_groupPixmap.size();
+    switch (type) {
+    case PropertyItem::Width:
+    case PropertyItem::Height: {
+        if (size.isEmpty()) {
+            return;
+        }
+        const int value = propertyItem(type)->getValue();
+        const int scale = type == PropertyItem::Width ? qRound(value * 100.0 / size.width())
+                                                      : qRound(value * 100.0 / size.height());
+        const QString scaleText = QString::number(scale);
+        propertyItem(PropertyItem::Scale)->setText(scaleText);
+        manager->saveInAppSettings(AppConfig::PROPERTY_SCALE, scaleText);
+        const int other = type == PropertyItem::Width ? PropertyItem::Height : PropertyItem::Width;
+        const int otherValue = other == PropertyItem::Width ? static_cast<int>(size.width() * scale / 100.0f)
+                                                            : static_cast<int>(size.height() * scale / 100.0f);
+        propertyItem(other)->setText(QString::number(otherValue));
+        manager->saveInAppSettings(propertyKey(other), QString::number(otherValue));
+        break;
+    }
+    case PropertyItem::Scale:
+        initScaleProperty();
+        break;
+    default:
+        showImage();
+        initScaleProperty();
+        break;
+    }
+}
+
+void PreviewWidget::updatePropertyEnabled()
+{
+    propertyItem(PropertyItem::XSpace)->setEnabled(m_radioType != Vertical);
+    propertyItem(PropertyItem::YSpace)->setEnabled(m_radioType != Horizontal);
+    propertyItem(PropertyItem::Column)->setEnabled(m_radioType == Grid);
+}
+
+void PreviewWidget::setRadioType(int type)
+{
+    m_radioType = type;
+    if (QAbstractButton* button = m_radioGroup->button(type)) {
+        button->setChecked(true);
+    }
+    updatePropertyEnabled();
+    showImage();
+    initScaleProperty();
+}
+
+SaveImageThread* PreviewWidget::saveImageThread() const
+{
+    return m_exporter->saveThread();
+}
+
+QImage PreviewWidget::composeImages(const QList<QPixmap>& pixmaps, int layoutType, int xSpace, int ySpace,
+                                    int column)
+{
+    if (pixmaps.isEmpty()) {
+        return QImage();
+    }
+    const int n = pixmaps.size();
+    const int c = column > 0 ? column : 1;
+    const int W = pixmaps.first().width();
+    const int H = pixmaps.first().height();
+    const int X = xSpace;
+    const int Y = ySpace;
+
+    QSize canvasSize;
+    int band = 0;
+    switch (layoutType) {
+    case Grid: {
+        const int xs = qMax(X, 0);
+        const int ys = qMax(Y, 0);
+        const int k = n < c ? n : c;
+        canvasSize = QSize(qMin(W * c, W * n) + (k - 1) * xs, ((n - 1) / c) * (H + ys) + H);
+        qDebug() << "getGroupPixmap Grid" << canvasSize.width() << canvasSize.height() << W << H << (k - 1) * xs;
+        break;
+    }
+    case Horizontal:
+        band = W + qMin(X, 0);
+        canvasSize = QSize((n - 1) * band + W + (n - 1) * qMax(X, 0), H);
+        qDebug() << "other image's width:" << band << "image total width" << canvasSize.width();
+        break;
+    default:
+        band = H + qMin(Y, 0);
+        canvasSize = QSize(W, (n - 1) * band + H + (n - 1) * qMax(Y, 0));
+        qDebug() << "other image's height:" << band << "image total height" << canvasSize.height();
+        break;
+    }
+    if (canvasSize.isEmpty()) {
+        return QImage();
+    }
+
+    QVector<Part> parts;
+    parts.reserve(n);
+    for (int i = 0; i < n; ++i) {
+        const QPixmap& pixmap = pixmaps.at(i);
+        if (pixmap.isNull()) {
+            continue;
+        }
+        if (layoutType == Grid) {
+            const int x = (i % c) * (X >= 1 ? W + X : W);
+            const int y = (i / c) * (Y >= 1 ? H + Y : H);
+            addPart(parts, i, pixmap, QPoint(x, y), pixmap.rect());
+        } else if (i == 0) {
+            addPart(parts, i, pixmap, QPoint(0, 0), pixmap.rect());
+        } else if (band > 0) {
+            const int w = pixmap.width();
+            const int h = pixmap.height();
+            if (layoutType == Horizontal) {
+                const int x = X >= 1 ? i * (W + X) : qAbs(qMin(X, 0)) + i * band;
+                addPart(parts, i, pixmap, QPoint(x, 0), QRect(w - band, 0, band, h));
+            } else {
+                const int y = Y >= 1 ? i * (H + Y) : qAbs(qMin(Y, 0)) + i * band;
+                addPart(parts, i, pixmap, QPoint(0, y), QRect(0, h - band, w, band));
+            }
+        }
+    }
+
+    // The canvas is opaque white, so RGB32 shows exactly what an alpha canvas
+    // would, takes frames as plain row copies and becomes a pixmap without conversion.
+    QImage canvas = acquireCanvas(canvasSize);
+    if (canvas.isNull()) {
+        qWarning() << "getGroupPixmap: canvas too large" << canvasSize;
+        return QImage();
+    }
+    // White goes only where no opaque frame will be drawn: each pixel is written once.
+    QRegion background(canvas.rect());
+    for (const Part& part : qAsConst(parts)) {
+        if (!pixmaps.at(part.index).hasAlphaChannel()) {
+            background -= QRect(part.at, part.source.size());
+        }
+    }
+    QPainter painter(&canvas);
+    for (const QRect& rect : background) {
+        painter.fillRect(rect, Qt::white);
+    }
+    for (const Part& part : qAsConst(parts)) {
+        painter.drawPixmap(part.at, pixmaps.at(part.index), part.source);
+    }
+    painter.end();
+    return canvas;
+}
+
+QPixmap PreviewWidget::getGroupPixmap()
+{
+    const int S = propertyValue(PropertyItem::Scale);
+    const int X = propertyValue(PropertyItem::XSpace);
+    const int Y = propertyValue(PropertyItem::YSpace);
+    const int M = propertyValue(PropertyItem::Column);
+    qDebug() << "getGroupPixmap data" << S << X << Y;
+
+    const QList<ImageItem*> items = GlobalManager::instance()->selectedImages();
+    if (items.isEmpty()) {
+        return QPixmap();
+    }
+    QList<QPixmap> pixmaps;
+    pixmaps.reserve(items.size());
+    for (ImageItem* item : items) {
+        pixmaps.append(item ? item->getPixmap() : QPixmap());
+    }
+    m_groupImage = composeImages(pixmaps, m_radioType, X, Y, M);
+    m_groupPixmap = QPixmap::fromImage(m_groupImage);
+    return m_groupPixmap;
+}
+
+void PreviewWidget::showImage()
+{
+    const QPixmap composite = getGroupPixmap();
+    if (GlobalManager::instance()->selectedImages().isEmpty()) {
+        // The stored composite survives an empty selection, but nothing is shown.
+        m_canvas->setPixmap(QPixmap());
+        m_sizeLabel->clear();
+    } else {
+        m_canvas->setPixmap(composite);
+        m_sizeLabel->setText(QStringLiteral("%1x%2").arg(composite.width()).arg(composite.height()));
+    }
+    const bool canExport = !composite.isNull() && !m_exporter->isRunning();
+    m_saveFileBar->exportButton()->setEnabled(canExport);
+    m_viewButton->setEnabled(!composite.isNull());
+    if (m_viewDialog && m_viewDialog->isVisible()) {
+        m_viewDialog->changePixmap(composite, m_viewDialog->zoomType());
+    }
+}
+
+void PreviewWidget::scrollToEnd()
+{
+    m_canvas->scrollToEnd();
+}
+
+void PreviewWidget::initScaleProperty()
+{
+    GlobalManager* manager = GlobalManager::instance();
+    const int scale = propertyValue(PropertyItem::Scale);
+    const bool empty = manager->selectedImages().isEmpty() || m_groupPixmap.isNull();
+    const int width = empty ? 0 : static_cast<int>(static_cast<float>(m_groupPixmap.width() * scale) / 100.0f);
+    const int height = empty ? 0 : static_cast<int>(static_cast<float>(m_groupPixmap.height() * scale) / 100.0f);
+    propertyItem(PropertyItem::Width)->setText(QString::number(width));
+    propertyItem(PropertyItem::Height)->setText(QString::number(height));
+    manager->saveInAppSettings(AppConfig::PROPERTY_WIDTH, QString::number(width));
+    manager->saveInAppSettings(AppConfig::PROPERTY_HEIGHT, QString::number(height));
+}
+
+void PreviewWidget::changeOutputDir(const QString& dir)
+{
+    m_saveFileBar->changeOutputDir(dir);
+}
+
+void PreviewWidget::changeFileExtension(const QString& ext)
+{
+    m_saveFileBar->changeFileExtension(ext);
+}
+
+void PreviewWidget::exportButtonClickHandle()
+{
+    if (m_exporter->isRunning()) {
+        return;
+    }
+    QPixmap composite = getGroupPixmap();
+    if (composite.isNull()) {
+        return;
+    }
+    GlobalManager* manager = GlobalManager::instance();
+    if (!manager->isRegister()) {
+        GlobalManager::changePixmapWithWaterMark(composite, AppConfig::APP_NAME);
+    }
+    const int scale = propertyValue(PropertyItem::Scale);
+    const int width = static_cast<int>(static_cast<float>(composite.width() * scale) / 100.0f);
+    // Scale 100 keeps the composite as it is; no resampling pass.
+    const QPixmap picture = width == composite.width() ? composite
+                            : width > 0               ? composite.scaledToWidth(width, Qt::FastTransformation)
+                                                      : QPixmap();
+    if (picture.isNull()) {
+        emit exportFinishedSignal({}, {tr("The scale is 0: there is no picture to export.")});
+        return;
+    }
+    m_exporter->start({picture});
+}
+
+void PreviewWidget::registerGuideClosedHandle()
+{
+    m_exporter->registerGuideClosedHandle();
+}
+
+void PreviewWidget::changeZoomHandle(int zoomType)
+{
+    m_canvas->setZoomType(zoomType);
+    m_fitButton->setChecked(zoomType == ImageCanvas::Fit);
+    m_actualButton->setChecked(zoomType == ImageCanvas::Actual);
+}
+
+void PreviewWidget::showViewDialogHandle()
+{
+    if (m_groupPixmap.isNull() || GlobalManager::instance()->selectedImages().isEmpty()) {
+        return;
+    }
+    if (!m_viewDialog) {
+        m_viewDialog = new ImageViewDialog(this);
+        connect(m_viewDialog, &ImageViewDialog::exportButtonTap, this, &PreviewWidget::exportButtonClickHandle);
+        connect(m_exporter, &ImageExporter::exportStarted, m_viewDialog, [this]() {
+            m_viewDialog->showProgressBar(true);
+            m_viewDialog->setButtonEnabled(false);
+        });
+        connect(m_exporter, &ImageExporter::exportProgress, m_viewDialog, &ImageViewDialog::changeProgress);
+        connect(m_exporter, &ImageExporter::writingFinished, m_viewDialog, [this]() {
+            m_viewDialog->showProgressBar(false);
+            m_viewDialog->setButtonEnabled(true);
+        });
+    }
+    m_viewDialog->changePixmap(m_groupPixmap, ImageCanvas::Fit);
+    m_viewDialog->show();
+    m_viewDialog->activateWindow();
+    m_viewDialog->raise();
+}
+
+void PreviewWidget::quitAppFinishEvent()
+{
+    if (m_viewDialog) {
+        m_viewDialog->hide();
+    }
+    saveImageThread()->wait();
+}
+
+void PreviewWidget::setExporting(bool exporting)
+{
+    m_progressBar->setVisible(exporting);
+    if (exporting) {
+        m_progressBar->setRange(0, 0);
+    }
+    m_saveFileBar->setButtonEnabled(!exporting);
+    m_saveFileBar->exportButton()->setEnabled(!exporting && !m_groupPixmap.isNull()
+                                              && !GlobalManager::instance()->selectedImages().isEmpty());
+    for (PropertyItem* item : qAsConst(m_propertyItems)) {
+        item->setEnabled(!exporting);
+    }
+    for (QAbstractButton* button : m_radioGroup->buttons()) {
+        button->setEnabled(!exporting);
+    }
+    if (!exporting) {
+        updatePropertyEnabled();
+    }
+}

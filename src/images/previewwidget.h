@@ -1,0 +1,98 @@
+#ifndef PREVIEWWIDGET_H
+#define PREVIEWWIDGET_H
+
+#include <QImage>
+#include <QList>
+#include <QMap>
+#include <QPixmap>
+#include <QStringList>
+#include <QWidget>
+
+class ImageCanvas;
+class ImageExporter;
+class ImageViewDialog;
+class PropertyItem;
+class QButtonGroup;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class SaveFileBar;
+class SaveImageThread;
+
+// The preview panel: stitches the selected frames into one picture, shows it
+// fitted or at 100 %, holds the output properties and layout choice, and
+// exports the picture.
+class PreviewWidget : public QWidget
+{
+    Q_OBJECT
+public:
+    enum LayoutType { Grid = 0, Vertical = 1, Horizontal = 2 };
+    Q_ENUM(LayoutType)
+
+    explicit PreviewWidget(QWidget* parent = nullptr);
+
+    // Composes the selected frames with the current properties and layout.
+    QPixmap getGroupPixmap();
+    // The composition itself, on any list of frames. Column counts below 1 mean 1.
+    static QImage composeImages(const QList<QPixmap>& pixmaps, int layoutType, int xSpace, int ySpace,
+                                int column);
+
+    int getRadioType() const { return m_radioType; }
+    void setRadioType(int type);
+    PropertyItem* propertyItem(int type) const { return m_propertyItems.value(type); }
+    // Integer value of a property (0 for text that is not a number).
+    int propertyValue(int type) const;
+    QPixmap groupPixmap() const { return m_groupPixmap; }
+
+    ImageCanvas* canvas() const { return m_canvas; }
+    SaveFileBar* saveFileBar() const { return m_saveFileBar; }
+    QLabel* sizeLabel() const { return m_sizeLabel; }
+    QProgressBar* progressBar() const { return m_progressBar; }
+    ImageExporter* exporter() const { return m_exporter; }
+    SaveImageThread* saveImageThread() const;
+
+signals:
+    // First export of an unregistered copy in this run: show the registration
+    // guide and call registerGuideClosedHandle() once it is closed.
+    void showRegisterGuide();
+    // files: pictures now in the output folder; errors: one text per failure.
+    void exportFinishedSignal(QStringList files, QStringList errors);
+
+public slots:
+    void showImage();
+    void scrollToEnd();
+    void initScaleProperty();
+    void changeOutputDir(const QString& dir);
+    void changeFileExtension(const QString& ext);
+    void exportButtonClickHandle();
+    void registerGuideClosedHandle();
+    void changeZoomHandle(int zoomType);
+    void showViewDialogHandle();
+    // Waits for a running export; called while the application shuts down.
+    void quitAppFinishEvent();
+
+private:
+    void initPropertyItems();
+    void propertyChangedHandle(int type, const QString& text);
+    void updatePropertyEnabled();
+    void setExporting(bool exporting);
+    static QString propertyKey(int type);
+
+    QImage m_groupImage;
+    QPixmap m_groupPixmap;
+    int m_radioType = Vertical;
+    QMap<int, PropertyItem*> m_propertyItems;
+    QButtonGroup* m_radioGroup = nullptr;
+    ImageCanvas* m_canvas = nullptr;
+    QPushButton* m_fitButton = nullptr;
+    QPushButton* m_actualButton = nullptr;
+    QPushButton* m_viewButton = nullptr;
+    QLabel* m_sizeLabel = nullptr;
+    QLabel* m_zoomLabel = nullptr;
+    SaveFileBar* m_saveFileBar = nullptr;
+    QProgressBar* m_progressBar = nullptr;
+    ImageExporter* m_exporter = nullptr;
+    ImageViewDialog* m_viewDialog = nullptr;
+};
+
+#endif // PREVIEWWIDGET_H

@@ -1,0 +1,77 @@
+#include "saveimagethread.h"
+
+#include "appconfig.h"
+#include "globalmanager.h"
+
+#include <QDebug>
+#include <QFileInfo>
+#include <QImage>
+#include <QMutexLocker>
+
+SaveImageThread::SaveImageThread(QObject* parent)
+    : QThread(parent)
+{
+}
+
+SaveImageThread::~SaveImageThread()
+{
+    // Pictures being written are finished rather than cut off half-way.
+    wait();
+}
+
+void SaveImageThread::setPixmapList(const QList<QPixmap>& pixmaps, const QString& dir)
+{
+    QMutexLocker locker(&m_mutex);
+    m_pixmapList = pixmaps;
+    m_dir = dir;
+}
+
+QString SaveImageThread::getDir() const
+{
+    QMutexLocker locker(&m_mutex);
+    return m_dir;
+}
+
+void SaveImageThread::run()
+{
+    QList<QImage> images;
+    QString dir;
+    {
+        QMutexLocker locker(&m_mutex);
+        // Raster pixmaps hand out their image without copying; painting on a
+        // QImage is safe on any thread, painting on a QPixmap is not everywhere.
+        for (const QPixmap& pixmap : qAsConst(m_pixmapList)) {
+            images.append(pixmap.isNull() ? QImage() : pixmap.toImage());
+        }
+        dir = m_dir;
+    }
+    const int total = images.size();
+    GlobalManager* manager = GlobalManager::instance();
+    const QString base = manager->getCurrentFile().completeBaseName();
+    const QString ext = manager->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_PNG).toString();
+    const bool registered = manager->isRegister();
+
+    emit saveStart();
+    QStringList result;
+    for (int i = 0; i < total; ++i) {
+        QImage image = images.at(i);
+        images[i] = QImage(); // at most one watermarked copy alive at a time
+        if (image.isNull()) {
+            continue;
+        }
+        const QString name = QStringLiteral("/%3_%1.%2").arg(i + 1).arg(ext.toLower(), base);
+        if (!registered) {
+            GlobalManager::changeImageWithWaterMark(image, AppConfig::APP_NAME);
+        }
+        QString error;
+        const QString path = manager->saveImage(image, dir, name, QString(), &error);
+        if (path.isEmpty()) {
+            emit saveError(name.mid(1), error);
+        } else {
+            result.append(path);
+        }
+        emit saveProgress(i, total);
+    }
+    qDebug() << "SaveImageThread finished:" << result.size() << "of" << total;
+    emit saveFinished(result);
+}

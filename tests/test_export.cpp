@@ -1,0 +1,403 @@
+// Export of the stitched picture and of single frames: real files read back,
+// collision-free names, fallbacks that lose nothing, failures that reach the
+// user, and the reveal in the file manager over a private session bus.
+#include "appconfig.h"
+#include "globalmanager.h"
+#include "imageexporter.h"
+#include "imageitem.h"
+#include "imageswidget.h"
+#include "previewwidget.h"
+#include "propertyitem.h"
+#include "saveimagethread.h"
+#include "testsupport.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLabel>
+#include <QDBusConnection>
+#include <QDesktopServices>
+#include <QDir>
+#include <QImageReader>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QtTest>
+
+class FakeFileManager : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
+public:
+    QList<QStringList> calls;
+public slots:
+    void ShowItems(const QStringList& uris, const QString& startupId)
+    {
+        Q_UNUSED(startupId)
+        calls.append(uris);
+    }
+};
+
+class UrlCatcher : public QObject
+{
+    Q_OBJECT
+public:
+    QList<QUrl> urls;
+public slots:
+    void open(const QUrl& url) { urls.append(url); }
+};
+
+namespace {
+QPixmap solidFrame(const QColor& color, int width = 320, int height = 180)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(color);
+    return QPixmap::fromImage(std::move(image));
+}
+
+AppConfig::CaptureData capture(const QPixmap& pixmap, int frame)
+{
+    AppConfig::CaptureData data;
+    data.pixmap = pixmap;
+    data.time = frame / 25.0;
+    data.frame = frame;
+    return data;
+}
+
+QByteArray fileBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+} // namespace
+
+class TestExport : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void cleanupTestCase();
+    void compositePngAndSecondExport();
+    void singleFramesInFormat_data();
+    void singleFramesInFormat();
+    void scaleHalvesWidth();
+    void unregisteredWatermarkAndGuideOnce();
+    void unusableOutputFolderFallsBack();
+    void nothingLostWhenNoFolderTakesFiles();
+    void tooTallForWebpIsReported();
+    void writeFailureHasReason();
+    void revealFallsBackToFolderQuietly();
+
+private:
+    QStringList waitFinished(QSignalSpy& spy, QStringList* errors = nullptr);
+
+    QProcess m_bus;
+    FakeFileManager m_fileManager;
+    UrlCatcher m_urls;
+    QString m_work;
+    QString m_out;
+    ImagesWidget* m_strip = nullptr;
+    PreviewWidget* m_preview = nullptr;
+};
+
+void TestExport::initTestCase()
+{
+    TestSupport::isolate();
+    // A private session bus with a fake file manager, before anything opens the bus.
+    m_bus.start(QStringLiteral("dbus-daemon"), {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                                                QStringLiteral("--nopidfile"), QStringLiteral("--print-address")});
+    QVERIFY(m_bus.waitForStarted(5000));
+    QTRY_VERIFY(m_bus.canReadLine());
+    const QByteArray address = m_bus.readLine().trimmed();
+    QVERIFY(!address.isEmpty());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    QVERIFY(bus.isConnected());
+    QVERIFY(bus.registerObject(QStringLiteral("/org/freedesktop/FileManager1"), &m_fileManager,
+                               QDBusConnection::ExportAllSlots));
+    QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.FileManager1")));
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &m_urls, "open");
+
+    m_work = TestSupport::makeWorkDir(QStringLiteral("export"));
+    GlobalManager::instance()->setCurrentFile(QFileInfo(m_work + QStringLiteral("/videos/holiday.mov")));
+}
+
+void TestExport::cleanupTestCase()
+{
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+    m_bus.terminate();
+    m_bus.waitForFinished(5000);
+}
+
+void TestExport::init()
+{
+    static int round = 0;
+    m_out = QStringLiteral("%1/out%2").arg(m_work).arg(++round);
+    GlobalManager* manager = GlobalManager::instance();
+    manager->saveSettings(AppConfig::FILE_SAVE_PATH, m_out);
+    manager->saveSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_PNG);
+    manager->setRegister(true);
+    m_strip = new ImagesWidget();
+    m_preview = new PreviewWidget();
+    m_strip->exporter()->setShowMessages(false);
+    m_preview->exporter()->setShowMessages(false);
+    connect(manager, &GlobalManager::globalEvent, m_preview, [this](const QString& name, const QVariant&) {
+        if (name == AppConfig::SELECT_IMAGE_COMPLETE) {
+            m_preview->showImage();
+        }
+    });
+    m_fileManager.calls.clear();
+    m_urls.urls.clear();
+}
+
+void TestExport::cleanup()
+{
+    delete m_preview;
+    delete m_strip;
+    GlobalManager::instance()->selectedImages().clear();
+}
+
+QStringList TestExport::waitFinished(QSignalSpy& spy, QStringList* errors)
+{
+    if (spy.isEmpty() && !spy.wait(30000)) {
+        return {QStringLiteral("<timeout>")};
+    }
+    const QList<QVariant> args = spy.takeFirst();
+    if (errors) {
+        *errors = args.at(1).toStringList();
+    }
+    return args.at(0).toStringList();
+}
+
+void TestExport::compositePngAndSecondExport()
+{
+    m_strip->addImage(capture(solidFrame(Qt::red), 1));
+    m_strip->addImage(capture(solidFrame(Qt::blue), 2));
+    m_preview->setRadioType(PreviewWidget::Vertical);
+    m_preview->propertyItem(PropertyItem::YSpace)->setText(QStringLiteral("-100"));
+    m_preview->propertyItem(PropertyItem::Scale)->setText(QStringLiteral("100"));
+    m_preview->showImage();
+    const QImage composite = m_preview->groupPixmap().toImage();
+    QCOMPARE(composite.size(), QSize(320, 260));
+    QCOMPARE(m_preview->sizeLabel()->text(), QStringLiteral("320x260"));
+
+    QSignalSpy spy(m_preview, &PreviewWidget::exportFinishedSignal);
+    m_preview->exportButtonClickHandle();
+    // Writing happens off the GUI thread: the handler returns before it is done.
+    QVERIFY(spy.isEmpty());
+    QStringList errors;
+    const QStringList first = waitFinished(spy, &errors);
+    QCOMPARE(errors, QStringList());
+    const QString expected = m_out + QStringLiteral("/holiday_1.png");
+    QCOMPARE(first, QStringList{expected});
+    QImageReader reader(expected);
+    QCOMPARE(reader.format(), QByteArray("png"));
+    const QImage written = reader.read();
+    QCOMPARE(written.convertToFormat(QImage::Format_RGB32), composite.convertToFormat(QImage::Format_RGB32));
+    QCOMPARE(QDir(m_out + QStringLiteral("/tmp")).entryList(QDir::Files), QStringList());
+    QTRY_COMPARE(m_fileManager.calls.size(), 1);
+    QCOMPARE(m_fileManager.calls.first(), QStringList{QUrl::fromLocalFile(expected).toString(QUrl::FullyEncoded)});
+
+    const QByteArray before = fileBytes(expected);
+    m_preview->exportButtonClickHandle();
+    const QStringList second = waitFinished(spy);
+    QCOMPARE(second, QStringList{m_out + QStringLiteral("/holiday_1(1).png")});
+    QCOMPARE(fileBytes(expected), before);
+    QCOMPARE(QImageReader(second.first()).size(), QSize(320, 260));
+}
+
+void TestExport::singleFramesInFormat_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QByteArray>("readerFormat");
+    QTest::addColumn<QString>("suffix");
+    QTest::newRow("png") << AppConfig::FORMAT_PNG << QByteArray("png") << QStringLiteral("png");
+    QTest::newRow("jpg") << AppConfig::FORMAT_JPG << QByteArray("jpeg") << QStringLiteral("jpg");
+    QTest::newRow("webp") << AppConfig::FORMAT_WEBP << QByteArray("webp") << QStringLiteral("webp");
+}
+
+void TestExport::singleFramesInFormat()
+{
+    QFETCH(QString, format);
+    QFETCH(QByteArray, readerFormat);
+    QFETCH(QString, suffix);
+    GlobalManager::instance()->saveSettings(AppConfig::FILE_EXTENSION, format);
+    m_strip->addImage(capture(solidFrame(Qt::red, 640, 360), 1));
+    m_strip->addImage(capture(solidFrame(Qt::green, 320, 200), 2));
+    m_strip->addImage(capture(solidFrame(Qt::blue, 100, 100), 3));
+    m_strip->items().at(1)->checkBox()->click(); // out of the selection
+
+    QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
+    m_strip->exportSelectedHandle(QString());
+    QStringList errors;
+    const QStringList files = waitFinished(spy, &errors);
+    QCOMPARE(errors, QStringList());
+    QCOMPARE(files, (QStringList{QStringLiteral("%1/holiday_1.%2").arg(m_out, suffix),
+                                 QStringLiteral("%1/holiday_2.%2").arg(m_out, suffix)}));
+    QImageReader first(files.at(0));
+    QCOMPARE(first.format(), readerFormat);
+    QCOMPARE(first.size(), QSize(640, 360));
+    const QImage firstImage = first.read();
+    QVERIFY(qAbs(qRed(firstImage.pixel(320, 180)) - 255) < 8);
+    QImageReader second(files.at(1));
+    QCOMPARE(second.format(), readerFormat);
+    QCOMPARE(second.size(), QSize(100, 100));
+    QVERIFY(qAbs(qBlue(second.read().pixel(50, 50)) - 255) < 8);
+}
+
+void TestExport::scaleHalvesWidth()
+{
+    m_strip->addImage(capture(solidFrame(Qt::red, 1000, 400), 1));
+    m_preview->propertyItem(PropertyItem::Scale)->setText(QStringLiteral("50"));
+    m_preview->initScaleProperty();
+    QCOMPARE(m_preview->propertyItem(PropertyItem::Width)->getText(), QStringLiteral("500"));
+    QCOMPARE(m_preview->propertyItem(PropertyItem::Height)->getText(), QStringLiteral("200"));
+    QSignalSpy spy(m_preview, &PreviewWidget::exportFinishedSignal);
+    m_preview->exportButtonClickHandle();
+    const QStringList files = waitFinished(spy);
+    QCOMPARE(files.size(), 1);
+    QCOMPARE(QImageReader(files.first()).size(), QSize(500, 200));
+
+    // Scale 0 writes nothing and says so.
+    m_preview->propertyItem(PropertyItem::Scale)->setText(QStringLiteral("0"));
+    m_preview->exportButtonClickHandle();
+    QStringList errors;
+    QCOMPARE(waitFinished(spy, &errors), QStringList());
+    QCOMPARE(errors.size(), 1);
+    QCOMPARE(QDir(m_out).entryList(QDir::Files).size(), 1);
+}
+
+void TestExport::unregisteredWatermarkAndGuideOnce()
+{
+    GlobalManager* manager = GlobalManager::instance();
+    manager->setRegister(false);
+    manager->saveInAppSettings(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT, false);
+    m_strip->addImage(capture(solidFrame(QColor(20, 20, 20), 640, 360), 1));
+    m_preview->showImage();
+
+    QSignalSpy guide(m_preview, &PreviewWidget::showRegisterGuide);
+    QSignalSpy spy(m_preview, &PreviewWidget::exportFinishedSignal);
+    m_preview->exportButtonClickHandle();
+    QVERIFY(guide.wait(30000));
+    // The files wait in the temporary folder until the guide is closed.
+    QCOMPARE(spy.count(), 0);
+    QCOMPARE(QDir(m_out + QStringLiteral("/tmp")).entryList(QDir::Files), QStringList{QStringLiteral("holiday_1.png")});
+    m_preview->registerGuideClosedHandle();
+    const QStringList files = waitFinished(spy);
+    QCOMPARE(files, QStringList{m_out + QStringLiteral("/holiday_1.png")});
+    QVERIFY(manager->readInAppSettings(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT, false).toBool());
+
+    // White text is stamped into the dark frame.
+    const QImage written(files.first());
+    int bright = 0;
+    for (int y = 0; y < written.height(); ++y) {
+        for (int x = 0; x < written.width(); ++x) {
+            bright += qGray(written.pixel(x, y)) > 100 ? 1 : 0;
+        }
+    }
+    QVERIFY2(bright > 200, qPrintable(QString::number(bright)));
+
+    m_preview->exportButtonClickHandle();
+    QCOMPARE(waitFinished(spy).size(), 1);
+    QCOMPARE(guide.count(), 1);
+}
+
+void TestExport::unusableOutputFolderFallsBack()
+{
+    const QString blocker = m_work + QStringLiteral("/a-file");
+    QVERIFY(TestSupport::writeFile(blocker, "not a folder"));
+    GlobalManager* manager = GlobalManager::instance();
+    manager->saveSettings(AppConfig::FILE_SAVE_PATH, blocker + QStringLiteral("/sub"));
+    m_strip->addImage(capture(solidFrame(Qt::red), 1));
+
+    QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
+    m_strip->exportSelectedHandle(QString());
+    QStringList errors;
+    const QStringList files = waitFinished(spy, &errors);
+    QCOMPARE(errors, QStringList());
+    QCOMPARE(files.size(), 1);
+    const QString fallback = manager->getWritePath(AppConfig::APP_NAME);
+    QCOMPARE(QFileInfo(files.first()).absolutePath(), QFileInfo(fallback).absoluteFilePath());
+    QCOMPARE(QImageReader(files.first()).size(), QSize(320, 180));
+}
+
+void TestExport::nothingLostWhenNoFolderTakesFiles()
+{
+    GlobalManager* manager = GlobalManager::instance();
+    const QString temp = m_work + QStringLiteral("/loose");
+    QVERIFY(TestSupport::writeFile(temp + QStringLiteral("/holiday_1.png"), "one"));
+    QVERIFY(TestSupport::writeFile(temp + QStringLiteral("/holiday_2.png"), "two"));
+    // Neither the chosen folder nor the default one can take files.
+    manager->saveSettings(AppConfig::FILE_SAVE_PATH, m_work + QStringLiteral("/a-file/sub"));
+    const QString fallback = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + "/Glimmer";
+    QVERIFY(QDir(fallback).removeRecursively());
+    QVERIFY(TestSupport::writeFile(fallback, "blocks the default folder"));
+
+    QStringList errors;
+    const QStringList kept = manager->selectOutPutFilesByTempList(
+        {temp + QStringLiteral("/holiday_1.png"), temp + QStringLiteral("/holiday_2.png")}, &errors);
+    QVERIFY(QFile::remove(fallback));
+    QCOMPARE(kept, (QStringList{temp + QStringLiteral("/holiday_1.png"), temp + QStringLiteral("/holiday_2.png")}));
+    QCOMPARE(errors.size(), 2);
+    QVERIFY2(errors.first().contains(QStringLiteral("holiday_1.png")), qPrintable(errors.first()));
+    QCOMPARE(fileBytes(temp + QStringLiteral("/holiday_2.png")), QByteArray("two"));
+}
+
+void TestExport::tooTallForWebpIsReported()
+{
+    GlobalManager::instance()->saveSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_WEBP);
+    m_strip->addImage(capture(solidFrame(Qt::red), 1));
+    m_strip->addImage(capture(solidFrame(Qt::green, 320, 17000), 2));
+    m_strip->addImage(capture(solidFrame(Qt::blue), 3));
+
+    QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
+    m_strip->exportSelectedHandle(QString());
+    QStringList errors;
+    const QStringList files = waitFinished(spy, &errors);
+    // What could be written is kept; the failure names its picture and the way out.
+    QCOMPARE(files, (QStringList{m_out + QStringLiteral("/holiday_1.webp"), m_out + QStringLiteral("/holiday_3.webp")}));
+    QCOMPARE(errors.size(), 1);
+    QVERIFY2(errors.first().startsWith(QStringLiteral("holiday_2.webp:")), qPrintable(errors.first()));
+    QVERIFY(errors.first().contains(QStringLiteral("too tall")));
+    QVERIFY(errors.first().contains(QStringLiteral("PNG")));
+    QVERIFY(!QFileInfo::exists(m_out + QStringLiteral("/holiday_2.webp")));
+
+    // A stitched picture that is too tall: nothing written, and the user is told.
+    m_preview->setRadioType(PreviewWidget::Vertical);
+    m_preview->propertyItem(PropertyItem::YSpace)->setText(QStringLiteral("8000"));
+    m_preview->showImage();
+    QCOMPARE(m_preview->groupPixmap().height(), 16540);
+    QSignalSpy previewSpy(m_preview, &PreviewWidget::exportFinishedSignal);
+    m_preview->exportButtonClickHandle();
+    QCOMPARE(waitFinished(previewSpy, &errors), QStringList());
+    QCOMPARE(errors.size(), 1);
+    QVERIFY(errors.first().contains(QStringLiteral("too tall")));
+}
+
+void TestExport::writeFailureHasReason()
+{
+    QString error;
+    const QString path = GlobalManager::instance()->saveImage(solidFrame(Qt::red).toImage(),
+                                                              m_work + QStringLiteral("/vanished/folder"),
+                                                              QStringLiteral("/x.png"), QString(), &error);
+    QVERIFY(path.isEmpty());
+    QVERIFY(!error.isEmpty());
+    QVERIFY2(!error.contains(QStringLiteral("Unknown error")), qPrintable(error));
+    QVERIFY(!QFileInfo::exists(m_work + QStringLiteral("/vanished")));
+}
+
+void TestExport::revealFallsBackToFolderQuietly()
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    QVERIFY(bus.unregisterService(QStringLiteral("org.freedesktop.FileManager1")));
+    const QString file = m_work + QStringLiteral("/reveal me/holiday_1.png");
+    QVERIFY(TestSupport::writeFile(file, "x"));
+    GlobalManager::instance()->openFilesBySelect({file});
+    QTRY_COMPARE(m_urls.urls.size(), 1);
+    QCOMPARE(m_urls.urls.first(), QUrl::fromLocalFile(QFileInfo(file).absolutePath()));
+    QCOMPARE(m_fileManager.calls.size(), 0);
+    QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.FileManager1")));
+}
+
+QTEST_MAIN(TestExport)
+#include "test_export.moc"

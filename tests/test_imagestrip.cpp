@@ -1,0 +1,256 @@
+// The captured strip, its selection in GlobalManager and the list view.
+#include "appconfig.h"
+#include "globalmanager.h"
+#include "imageitem.h"
+#include "imagelistviewdialog.h"
+#include "imageswidget.h"
+#include "savefilebar.h"
+#include "testsupport.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QPointer>
+#include <QPushButton>
+#include <QtTest>
+
+namespace {
+QPixmap solidFrame(const QColor& color, int width = 1920, int height = 1080)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(color);
+    return QPixmap::fromImage(std::move(image));
+}
+
+AppConfig::CaptureData capture(const QPixmap& pixmap, double time, int frame)
+{
+    AppConfig::CaptureData data;
+    data.pixmap = pixmap;
+    data.time = time;
+    data.frame = frame;
+    return data;
+}
+} // namespace
+
+class TestImageStrip : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void capturesKeepArrivalOrderAndStartChecked();
+    void framesAreSharedNotCopied();
+    void selectAllThenCheckOneEmitsTwice();
+    void deleteButtonRemovesItem();
+    void clearEmitsEvenWhenEmpty();
+    void updateByPixmapListReplacesInOrder();
+    void listViewMirrorsAndDrivesStrip();
+    void listViewGridColumns();
+
+private:
+    int events() const { return m_events; }
+    QList<ImageItem*> selection() const { return GlobalManager::instance()->selectedImages(); }
+
+    ImagesWidget* m_strip = nullptr;
+    int m_events = 0;
+};
+
+void TestImageStrip::initTestCase()
+{
+    TestSupport::isolate();
+    connect(GlobalManager::instance(), &GlobalManager::globalEvent, this, [this](const QString& name, const QVariant&) {
+        if (name == AppConfig::SELECT_IMAGE_COMPLETE) {
+            ++m_events;
+        }
+    });
+}
+
+void TestImageStrip::init()
+{
+    m_strip = new ImagesWidget();
+    m_strip->resize(800, 200);
+    m_strip->show();
+    m_events = 0;
+}
+
+void TestImageStrip::cleanup()
+{
+    delete m_strip;
+    m_strip = nullptr;
+    GlobalManager::instance()->selectedImages().clear();
+}
+
+void TestImageStrip::capturesKeepArrivalOrderAndStartChecked()
+{
+    const QPixmap frame = solidFrame(Qt::red);
+    m_strip->addImage(QVariant::fromValue(capture(frame, 4.0, 100)));
+    m_strip->addImage(capture(solidFrame(Qt::blue), 2.0, 50));
+    m_strip->addImage(capture(frame, 4.0, 100));
+    QCOMPARE(events(), 3);
+
+    const QList<ImageItem*> items = m_strip->items();
+    QCOMPARE(items.size(), 3);
+    QCOMPARE(items.at(0)->getFrame(), 100);
+    QCOMPARE(items.at(1)->getFrame(), 50);
+    QCOMPARE(items.at(1)->getCpatureTime(), 2.0);
+    QCOMPARE(items.at(2)->getFrame(), 100);
+    QCOMPARE(selection(), items);
+    for (ImageItem* item : items) {
+        QVERIFY(item->isSelect());
+        QCOMPARE(item->styleSheet(), QStringLiteral("QWidget#image_item_widget{border: 1px solid #008cf1;}"));
+        // 1920x1080 at display rate 1: 150 x 84.
+        QCOMPARE(item->size(), QSize(150, 84));
+    }
+}
+
+void TestImageStrip::framesAreSharedNotCopied()
+{
+    const QPixmap frame = solidFrame(Qt::green);
+    m_strip->addImage(capture(frame, 1.0, 25));
+    ImageItem* item = m_strip->items().first();
+    QCOMPARE(item->getPixmap().cacheKey(), frame.cacheKey());
+    QCOMPARE(item->getPixmap().size(), QSize(1920, 1080));
+
+    m_strip->showButtonClickedHandle();
+    ImageListViewDialog* dialog = m_strip->listViewDialog();
+    QCOMPARE(dialog->items().size(), 1);
+    QCOMPARE(dialog->items().first()->getPixmap().cacheKey(), frame.cacheKey());
+    dialog->hide();
+}
+
+void TestImageStrip::selectAllThenCheckOneEmitsTwice()
+{
+    for (int i = 0; i < 3; ++i) {
+        m_strip->addImage(capture(solidFrame(Qt::gray, 320, 180), i, i));
+    }
+    m_events = 0;
+    m_strip->selectAll(false);
+    QCOMPARE(events(), 1);
+    QVERIFY(selection().isEmpty());
+
+    ImageItem* middle = m_strip->items().at(1);
+    middle->checkBox()->click();
+    QCOMPARE(events(), 2);
+    QCOMPARE(selection(), QList<ImageItem*>{middle});
+    QVERIFY(!m_strip->items().at(0)->isSelect());
+    QVERIFY(m_strip->items().at(0)->styleSheet().isEmpty());
+
+    m_strip->selectAll(true);
+    QCOMPARE(events(), 3);
+    QCOMPARE(selection(), m_strip->items());
+}
+
+void TestImageStrip::deleteButtonRemovesItem()
+{
+    for (int i = 0; i < 3; ++i) {
+        m_strip->addImage(capture(solidFrame(Qt::gray, 320, 180), i, i));
+    }
+    m_events = 0;
+    QPointer<ImageItem> doomed = m_strip->items().at(1);
+    QTest::mouseClick(doomed->deleteButton(), Qt::LeftButton);
+    QCOMPARE(events(), 1);
+    QCOMPARE(m_strip->items().size(), 2);
+    QVERIFY(!selection().contains(doomed.data()));
+    QCOMPARE(selection().size(), 2);
+    QTRY_VERIFY(doomed.isNull());
+}
+
+void TestImageStrip::clearEmitsEvenWhenEmpty()
+{
+    m_strip->clearButtonClickedHandle();
+    QCOMPARE(events(), 1);
+
+    m_strip->addImage(capture(solidFrame(Qt::gray, 320, 180), 0, 0));
+    m_strip->addImage(capture(solidFrame(Qt::gray, 320, 180), 1, 1));
+    QPointer<ImageItem> first = m_strip->items().first();
+    m_events = 0;
+    m_strip->clearButtonClickedHandle();
+    QCOMPARE(events(), 1);
+    QVERIFY(m_strip->items().isEmpty());
+    QVERIFY(selection().isEmpty());
+    QTRY_VERIFY(first.isNull());
+}
+
+void TestImageStrip::updateByPixmapListReplacesInOrder()
+{
+    m_strip->addImage(capture(solidFrame(Qt::red, 320, 180), 0, 0));
+    m_strip->addImage(capture(solidFrame(Qt::red, 320, 180), 1, 1));
+    const QPixmap a = solidFrame(Qt::yellow, 320, 180);
+    const QPixmap b = solidFrame(Qt::cyan, 320, 180);
+    m_events = 0;
+    m_strip->updateByPixmapList({a, b});
+    QCOMPARE(events(), 1);
+    QCOMPARE(m_strip->items().at(0)->getPixmap().cacheKey(), a.cacheKey());
+    QCOMPARE(m_strip->items().at(1)->getPixmap().cacheKey(), b.cacheKey());
+}
+
+void TestImageStrip::listViewMirrorsAndDrivesStrip()
+{
+    for (int i = 0; i < 4; ++i) {
+        m_strip->addImage(capture(solidFrame(Qt::gray, 320, 180), i, i));
+    }
+    m_strip->items().at(3)->setSelect(false);
+    m_strip->showButtonClickedHandle();
+    ImageListViewDialog* dialog = m_strip->listViewDialog();
+    QVERIFY(dialog->isVisible());
+    QCOMPARE(dialog->items().size(), 4);
+    QVERIFY(!dialog->items().at(3)->isSelect());
+    QCOMPARE(dialog->items().first()->size(), QSize(200, 112));
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(dialog->sourceOf(dialog->items().at(i)), m_strip->items().at(i));
+    }
+
+    m_events = 0;
+    dialog->items().at(0)->checkBox()->click();
+    QCOMPARE(events(), 1);
+    QVERIFY(!m_strip->items().at(0)->isSelect());
+    QCOMPARE(selection(), (QList<ImageItem*>{m_strip->items().at(1), m_strip->items().at(2)}));
+
+    ImageItem* stripSecond = m_strip->items().at(1);
+    QTest::mouseClick(dialog->items().at(1)->deleteButton(), Qt::LeftButton);
+    QCOMPARE(events(), 2);
+    QCOMPARE(m_strip->items().size(), 3);
+    QVERIFY(!m_strip->items().contains(stripSecond));
+    QCOMPARE(dialog->items().size(), 3);
+
+    dialog->saveFileBar()->selectAllBox()->click();
+    QCOMPARE(events(), 3);
+    QCOMPARE(selection(), m_strip->items());
+    for (ImageItem* item : dialog->items()) {
+        QVERIFY(item->isSelect());
+    }
+
+    dialog->deleteAllButton()->click();
+    QCOMPARE(events(), 4);
+    QVERIFY(m_strip->items().isEmpty());
+    QVERIFY(dialog->items().isEmpty());
+    dialog->hide();
+}
+
+void TestImageStrip::listViewGridColumns()
+{
+    for (int i = 0; i < 7; ++i) {
+        m_strip->addImage(capture(solidFrame(Qt::gray, 320, 180), i, i));
+    }
+    m_strip->showButtonClickedHandle();
+    ImageListViewDialog* dialog = m_strip->listViewDialog();
+    // (width - 20 + 20) / 200 columns at display rate 1, never more than the items.
+    QGridLayout* grid = dialog->gridLayout();
+    for (int width : {900, 1300, 2400}) {
+        dialog->resize(width, 500);
+        dialog->changeSizeByWindow();
+        const int columns = qMin(7, dialog->width() / 200);
+        QVERIFY(columns >= 1);
+        for (int i = 0; i < 7; ++i) {
+            int row = -1, column = -1, span = 0;
+            grid->getItemPosition(grid->indexOf(dialog->items().at(i)), &row, &column, &span, &span);
+            QCOMPARE(row, i / columns);
+            QCOMPARE(column, i % columns);
+        }
+    }
+    dialog->hide();
+}
+
+QTEST_MAIN(TestImageStrip)
+#include "test_imagestrip.moc"
