@@ -1,5 +1,6 @@
 #include "appconfig.h"
 #include "captioninfo.h"
+#include "captionitem.h"
 #include "captionmanager.h"
 #include "captionwidget.h"
 #include "globalmanager.h"
@@ -10,6 +11,7 @@
 #include "messagedialog.h"
 #include "mpvwidget.h"
 #include "previewwidget.h"
+#include "propertyitem.h"
 #include "testsupport.h"
 #include "titlebar.h"
 #include "videoplaywidget.h"
@@ -158,10 +160,9 @@ private slots:
 
     void composeVerticalAndExport()
     {
-        GlobalManager* global = GlobalManager::instance();
         PreviewWidget* preview = m_window->previewWidget();
         preview->setRadioType(1);
-        global->saveInAppSettings(AppConfig::PROPERTY_Y_SPACE, QStringLiteral("-500"));
+        preview->propertyItem(3)->setText(QStringLiteral("-500"));
         preview->showImage();
         const QPixmap composite = preview->getGroupPixmap();
         QCOMPARE(composite.size(), QSize(1280, 720 + 2 * 220));
@@ -196,9 +197,12 @@ private slots:
         for (int i = 0; i < items.size(); ++i) {
             const QImage after = items.at(i)->getPixmap().toImage();
             QCOMPARE(after.size(), before.at(i).size());
-            // The caption moved up to the middle: the middle band changed, the top did not.
-            QVERIFY2(meanDifference(after, before.at(i), QRect(0, 380, 1280, 200)) > 2.0,
+            // The caption moved up to the middle (its baseline at 150/288 of the height):
+            // the band above that line changed, and so did the bottom band it left.
+            QVERIFY2(meanDifference(after, before.at(i), QRect(0, 250, 1280, 125)) > 2.0,
                      qPrintable(QStringLiteral("item %1 not re-captured").arg(i)));
+            QVERIFY2(meanDifference(after, before.at(i), QRect(0, 600, 1280, 120)) > 2.0,
+                     qPrintable(QStringLiteral("item %1 still shows the old caption").arg(i)));
             QVERIFY(meanDifference(after, before.at(i), QRect(0, 0, 1280, 200)) < 1.0);
         }
     }

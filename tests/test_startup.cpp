@@ -17,7 +17,7 @@ private:
     void startFirst(QProcess& process)
     {
         process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(program(), {});
+        process.start(program(), QStringList());
         QVERIFY(process.waitForStarted(10000));
         // Ready once the main window has logged its language.
         QElapsedTimer timer;
@@ -34,7 +34,7 @@ private:
     int runSecond()
     {
         QProcess second;
-        second.start(program(), {});
+        second.start(program(), QStringList());
         if (!second.waitForFinished(20000)) {
             second.kill();
             second.waitForFinished(2000);

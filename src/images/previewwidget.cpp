@@ -10,6 +10,7 @@
 #include "savefilebar.h"
 #include "saveimagethread.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QDebug>
 #include <QHBoxLayout>
@@ -577,5 +578,18 @@ void PreviewWidget::setExporting(bool exporting)
     }
     if (!exporting) {
         updatePropertyEnabled();
+    }
+}
+
+void PreviewWidget::updateImageShow()
+{
+    showImage();
+}
+
+void PreviewWidget::resetEditStatus()
+{
+    QWidget* focused = QApplication::focusWidget();
+    if (focused && isAncestorOf(focused)) {
+        focused->clearFocus();
     }
 }

@@ -68,6 +68,10 @@ public slots:
     void registerGuideClosedHandle();
     void changeZoomHandle(int zoomType);
     void showViewDialogHandle();
+    // Recomposes after frames were captured again in place.
+    void updateImageShow();
+    // Ends editing of a property field (a click elsewhere in the window).
+    void resetEditStatus();
     // Waits for a running export; called while the application shuts down.
     void quitAppFinishEvent();
 

@@ -33,6 +33,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMenu>
+#include <QPushButton>
+#include <QToolButton>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTimer>
