@@ -89,6 +89,7 @@ private slots:
                                               "3\n00:00:05,040 --> 00:00:06,000\nThird caption\n\n"
                                               "4\n00:00:07,000 --> 00:00:08,000\nFourth, the last\n\n"));
 
+        qApp->setStyleSheet(AppConfig::loadApplicationStyleSheet());
         m_window = new MainWindow();
         m_window->show();
         m_window->resize(AppConfig::rate(QSize(1100, 741)));

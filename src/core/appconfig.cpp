@@ -2,6 +2,7 @@
 
 #include "screenmanager.h"
 
+#include <QFile>
 #include <QList>
 #include <QString>
 
@@ -36,6 +37,22 @@ QMargins rate(const QMargins& margins)
 QRect rate(const QRect& rect)
 {
     return ScreenManager::instance()->rate(rect);
+}
+
+QString loadApplicationStyleSheet()
+{
+    QFile file(QStringLiteral(":/qss/application.qss"));
+    QString styleSheet;
+    if (file.open(QIODevice::ReadOnly)) {
+        const QByteArray bytes = file.readAll();
+        const int nul = bytes.indexOf('\0');
+        styleSheet = QString::fromUtf8(nul < 0 ? bytes : bytes.left(nul));
+    }
+    styleSheet.replace(QStringLiteral("8pt"), QStringLiteral("11pt"));
+    styleSheet.replace(QStringLiteral("padding-top: 3px;"), QStringLiteral("padding-top: 2px;"));
+    styleSheet.replace(QStringLiteral("padding-bottom: 3px;"), QStringLiteral("padding-bottom: 2px;"));
+    ScreenManager::instance()->styleDpiChange(styleSheet);
+    return styleSheet;
 }
 
 void initResources()

@@ -102,6 +102,10 @@ QRect rate(const QRect& rect);
 // needed because they live in a static library.
 void initResources();
 
+// The application style sheet: the embedded text with its fixed replacements,
+// every px value scaled to the current screen.
+QString loadApplicationStyleSheet();
+
 // Registers the value types that travel in queued signals and bus events.
 void registerMetaTypes();
 

@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDebug>
-#include <QFile>
 #include <QScreen>
 #include <QSharedMemory>
 #include <QSslSocket>
@@ -47,17 +46,7 @@ int main(int argc, char* argv[])
     ScreenManager::instance()->init(QGuiApplication::screenAt(QCursor::pos()));
     TranslateManager::instance()->init();
 
-    auto* styleFile = new QFile(QStringLiteral(":/qss/application.qss"));
-    auto* styleSheet = new QString();
-    if (styleFile->open(QIODevice::ReadOnly)) {
-        const QByteArray bytes = styleFile->readAll();
-        const int nul = bytes.indexOf('\0');
-        *styleSheet = QString::fromUtf8(nul < 0 ? bytes : bytes.left(nul));
-    }
-    styleSheet->replace(QStringLiteral("8pt"), QStringLiteral("11pt"));
-    styleSheet->replace(QStringLiteral("padding-top: 3px;"), QStringLiteral("padding-top: 2px;"));
-    styleSheet->replace(QStringLiteral("padding-bottom: 3px;"), QStringLiteral("padding-bottom: 2px;"));
-    ScreenManager::instance()->styleDpiChange(*styleSheet);
+    auto* styleSheet = new QString(AppConfig::loadApplicationStyleSheet());
     app->setStyleSheet(*styleSheet);
 
     auto* window = new MainWindow(nullptr);
@@ -71,7 +60,6 @@ int main(int argc, char* argv[])
     const int result = app->exec();
 
     delete styleSheet;
-    delete styleFile;
     delete app;
     return result;
 }
