@@ -1,0 +1,202 @@
+#include "appconfig.h"
+#include "captioninfo.h"
+#include "captionitem.h"
+#include "captionlabelwidget.h"
+#include "captionmanager.h"
+#include "captionwidget.h"
+#include "globalmanager.h"
+#include "testsupport.h"
+
+#include <QCheckBox>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QListWidget>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QtTest>
+
+class TestCaptionWidget : public QObject
+{
+    Q_OBJECT
+private:
+    // n captions of 1 s, back to back every 2 s; every tenth one says "needle".
+    static void makeCaptions(int n)
+    {
+        QJsonArray utterances;
+        for (int i = 0; i < n; ++i) {
+            QJsonObject u;
+            u.insert(QStringLiteral("start_time"), i * 2000);
+            u.insert(QStringLiteral("end_time"), i * 2000 + 1000);
+            u.insert(QStringLiteral("text"), i % 10 == 0 ? QStringLiteral("a needle %1").arg(i)
+                                                         : QStringLiteral("hay %1").arg(i));
+            utterances.append(u);
+        }
+        QJsonObject root;
+        root.insert(QStringLiteral("utterances"), utterances);
+        CaptionManager::instance()->createCaptions(QJsonDocument(root).toJson(), false);
+    }
+
+    static QString title(CaptionWidget& widget)
+    {
+        return widget.findChild<QLabel*>(QStringLiteral("sub_title"))->text();
+    }
+
+    static void scrollToBottom(CaptionWidget& widget)
+    {
+        QScrollBar* bar = widget.listWidget()->verticalScrollBar();
+        // Let the list lay out the rows added last, so the range is current.
+        QTest::qWait(20);
+        const int before = bar->value();
+        bar->setValue(bar->maximum());
+        if (bar->value() == before) {
+            // An unchanged value sends no signal: call the handler as the bar would.
+            widget.scrollValueChanged(bar->value());
+        }
+    }
+
+private slots:
+    void initTestCase()
+    {
+        TestSupport::isolate();
+        GlobalManager::instance()->setCurrentFile(QFileInfo(QStringLiteral("/videos/clip.mp4")));
+    }
+
+    void rowsAreCreatedLazily()
+    {
+        makeCaptions(100);
+        CaptionWidget widget;
+        widget.resize(300, 400);
+        widget.show();
+        QCOMPARE(widget.items().size(), 36);
+        QCOMPARE(title(widget), QStringLiteral("Captions (100)"));
+        scrollToBottom(widget);
+        QCOMPARE(widget.items().size(), 72);
+        scrollToBottom(widget);
+        QCOMPARE(widget.items().size(), 100);
+        scrollToBottom(widget);
+        QCOMPARE(widget.items().size(), 100);
+        // Rows keep the manager's own records.
+        QCOMPARE(widget.items().at(57)->getCaptionInfo(), CaptionManager::instance()->getCaptions().at(57));
+    }
+
+    void searchIsCaseSensitiveAndCounts()
+    {
+        makeCaptions(100);
+        CaptionWidget widget;
+        widget.show();
+        widget.searchEdit()->setText(QStringLiteral("needle"));
+        QCOMPARE(title(widget), QStringLiteral("Captions (10)"));
+        QCOMPARE(widget.items().size(), 10);
+        QCOMPARE(widget.items().at(3)->getCaptionInfo()->text, QStringLiteral("a needle 30"));
+        // Paging still looks at the whole store, and clamps to the results.
+        scrollToBottom(widget);
+        QCOMPARE(widget.items().size(), 10);
+        widget.searchEdit()->setText(QStringLiteral("Needle"));
+        QCOMPARE(title(widget), QStringLiteral("Captions (0)"));
+        QVERIFY(widget.items().isEmpty());
+        widget.searchEdit()->clear();
+        QCOMPARE(widget.items().size(), 36);
+    }
+
+    void playingRowFollowsTheTime()
+    {
+        // Two captions that touch: 0-1000 and 1000-2000 ms.
+        CaptionManager::instance()->createCaptions(
+            R"({"utterances":[{"start_time":0,"end_time":1010,"text":"one"},
+                               {"start_time":1000,"end_time":2000,"text":"two"}]})",
+            false);
+        CaptionWidget widget;
+        widget.show();
+        // The first ends 10 ms early (0:0:1.0); the boundary at 1.0 s is the earlier one's.
+        widget.changeCaptionPlayByTime(1.0);
+        QVERIFY(widget.playingItem());
+        QCOMPARE(widget.playingItem()->getCaptionInfo()->text, QStringLiteral("one"));
+        widget.changeCaptionPlayByTime(1.5);
+        QCOMPARE(widget.playingItem()->getCaptionInfo()->text, QStringLiteral("two"));
+        QVERIFY(!widget.items().at(0)->isPlaying());
+        widget.changeCaptionPlayByTime(7.0);
+        QVERIFY(!widget.playingItem());
+    }
+
+    void clickSeeksToTheCaptionStart()
+    {
+        CaptionManager::instance()->createCaptions(
+            R"({"utterances":[{"start_time":5030,"end_time":6000,"text":"late"}]})", false);
+        CaptionWidget widget;
+        widget.show();
+        QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
+        widget.captionListItemClicked(widget.listWidget()->item(0));
+        QCOMPARE(bus.count(), 1);
+        QCOMPARE(bus.at(0).at(0).toString(), AppConfig::TIME_POS);
+        // "0:0:5.3" is read as renderers read it.
+        QCOMPARE(bus.at(0).at(1).toInt(), 5030);
+        QVERIFY(widget.items().at(0)->isSelect());
+    }
+
+    void selectAllTicksEveryCaption()
+    {
+        makeCaptions(80);
+        CaptionWidget widget;
+        widget.show();
+        auto* selectAll = widget.findChild<QCheckBox*>(QStringLiteral("select_all"));
+        QCOMPARE(selectAll->checkState(), Qt::Checked);
+        selectAll->click();
+        for (CaptionInfo* info : CaptionManager::instance()->getCaptions()) {
+            QVERIFY(!info->isCheck); // rows not created yet included
+        }
+        QVERIFY(!widget.items().at(5)->checkBox()->isChecked());
+        widget.items().at(5)->checkBox()->click();
+        QVERIFY(CaptionManager::instance()->getCaptions().at(5)->isCheck);
+        QCOMPARE(selectAll->checkState(), Qt::PartiallyChecked);
+    }
+
+    void editingInPlaceRaisesTheEvents()
+    {
+        makeCaptions(3);
+        CaptionWidget widget;
+        widget.show();
+        QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
+        QSignalSpy changed(&widget, &CaptionWidget::captionTextChangedSignal);
+        CaptionItem* row = widget.items().at(1);
+        row->changeToEdit(true);
+        QCOMPARE(widget.editItem(), row);
+        QCOMPARE(bus.count(), 1);
+        QCOMPARE(bus.at(0).at(0).toString(), AppConfig::CHANGE_CAPTION);
+        QCOMPARE(bus.at(0).at(1).value<CaptionInfo*>(), row->getCaptionInfo());
+
+        row->labelWidget()->editor()->setText(QStringLiteral("edited text"));
+        widget.resetEditStatus();
+        QVERIFY(!widget.editItem());
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(row->getCaptionInfo()->text, QStringLiteral("edited text"));
+        QCOMPARE(row->getCaptionInfo()->captionEdit->text, QStringLiteral("edited text"));
+
+        // Ending an edit without a change changes nothing.
+        row->changeToEdit(true);
+        row->changeToEdit(false);
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void emptyStoreShowsTheStartOptions()
+    {
+        CaptionManager::instance()->clearCaptions();
+        CaptionWidget widget;
+        widget.show();
+        QVERIFY(!widget.listWidget()->isVisible());
+        QCOMPARE(title(widget), QStringLiteral("Captions (0)"));
+        QSignalSpy automatic(&widget, &CaptionWidget::autoCaptionSignal);
+        auto* button = widget.findChild<QPushButton*>(QStringLiteral("auto_caption"));
+        QVERIFY(button && button->isVisible());
+        button->click();
+        QCOMPARE(automatic.count(), 1);
+        // English (US) is the default recognition language.
+        QCOMPARE(automatic.at(0).at(0).toInt(), 7);
+    }
+};
+
+QTEST_MAIN(TestCaptionWidget)
+#include "test_captionwidget.moc"
