@@ -9,11 +9,13 @@
 #include <QApplication>
 #include <QCursor>
 #include <QDebug>
+#include <QMessageBox>
 #include <QScreen>
 #include <QSharedMemory>
 #include <QSslSocket>
 
 #include <clocale>
+#include <stdexcept>
 
 int main(int argc, char* argv[])
 {
@@ -49,7 +51,20 @@ int main(int argc, char* argv[])
     auto* styleSheet = new QString(AppConfig::loadApplicationStyleSheet());
     app->setStyleSheet(*styleSheet);
 
-    auto* window = new MainWindow(nullptr);
+    MainWindow* window = nullptr;
+    try {
+        window = new MainWindow(nullptr);
+    } catch (const std::runtime_error& error) {
+        // The player cannot run without libmpv: say so instead of vanishing.
+        qCritical() << "MainWindow:" << error.what();
+        QMessageBox::critical(nullptr, AppConfig::APP_NAME,
+                              QCoreApplication::translate("main", "The video player could not be started: %1")
+                                  .arg(QString::fromLocal8Bit(error.what())));
+        guard.detach();
+        delete styleSheet;
+        delete app;
+        return 1;
+    }
     window->show();
     window->resize(AppConfig::rate(QSize(1100, 741)));
     DownloadManager::instance()->downloadLastVersion(DownloadManager::TAG_START, 5);
