@@ -137,7 +137,9 @@ void HttpManager::submit(const QString& filePath, const QString& language)
             qDebug().noquote() << "Request failed. Error: " << reply->errorString();
             // A cancelled upload is the user's own doing: nothing to report.
             if (reply->error() != QNetworkReply::OperationCanceledError) {
-                emitSpeechError(replyMessage(body, reply->errorString()), body);
+                emitSpeechError(
+                    replyMessage(body, tr("The speech service could not be reached: %1").arg(reply->errorString())),
+                    body);
             }
         }
         reply->deleteLater();
@@ -158,7 +160,9 @@ void HttpManager::getCaptionsByTaskId(const QString& taskId)
         if (reply->error() == QNetworkReply::OperationCanceledError) {
             // Cancelled by the user: nothing to report.
         } else if (reply->error() != QNetworkReply::NoError) {
-            emitSpeechError(replyMessage(body, reply->errorString()), body);
+            emitSpeechError(
+                    replyMessage(body, tr("The speech service could not be reached: %1").arg(reply->errorString())),
+                    body);
         } else if (state == QLatin1String("failed") || state == QLatin1String("running")) {
             // The service answered, but with no captions: the user must learn why.
             qDebug().noquote() << "recognition failed:" << body;

@@ -796,16 +796,14 @@ void MainWindow::aiCaptionFailed(const QString& message)
 
 void MainWindow::httpRequestErrorHandle(const QString& key, const QJsonObject& object, const QByteArray& data)
 {
+    Q_UNUSED(data)
     if (key != AppConfig::TASK_ID || !m_aiCaptionRunning) {
         return;
     }
-    QString message = object.value(QStringLiteral("message")).toString();
-    const QJsonObject body = QJsonDocument::fromJson(data).object();
-    if (body.contains(QStringLiteral("message"))) {
-        message = body.value(QStringLiteral("message")).toString();
-    }
-    aiCaptionFailed(tr("The speech service could not be reached or refused the request.")
-                    + (message.isEmpty() ? QString() : QStringLiteral("\n\n") + message));
+    // The client words every failure for the user: the service's own answer
+    // when it gave one, otherwise what went wrong on the way.
+    const QString message = object.value(QStringLiteral("message")).toString();
+    aiCaptionFailed(message.isEmpty() ? tr("The speech service could not be reached.") : message);
 }
 
 // ---------------------------------------------------------------- capture
