@@ -25,17 +25,9 @@ void quietLibass(int level, const char* format, va_list args, void* data)
     Q_UNUSED(level)
 }
 
-QByteArray utterances(const QList<std::tuple<int, int, QString>>& items)
-{
-    QJsonArray array;
-    for (const auto& item : items) {
-        array.append(QJsonObject{{QStringLiteral("start_time"), std::get<0>(item)},
-                                 {QStringLiteral("end_time"), std::get<1>(item)},
-                                 {QStringLiteral("text"), std::get<2>(item)}});
-    }
-    return QJsonDocument(QJsonObject{{QStringLiteral("utterances"), array}}).toJson();
-}
 } // namespace
+
+using TestSupport::utterances;
 
 class TestAssWriter : public QObject
 {

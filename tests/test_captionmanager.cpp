@@ -40,19 +40,9 @@ QString readText(const QString& path)
     return QString::fromUtf8(file.readAll());
 }
 
-QByteArray utterances(const QList<std::tuple<int, int, QString>>& items)
-{
-    QJsonArray array;
-    for (const auto& item : items) {
-        array.append(QJsonObject{{QStringLiteral("start_time"), std::get<0>(item)},
-                                 {QStringLiteral("end_time"), std::get<1>(item)},
-                                 {QStringLiteral("text"), std::get<2>(item)}});
-    }
-    return QJsonDocument(QJsonObject{{QStringLiteral("state"), QStringLiteral("success")},
-                                     {QStringLiteral("utterances"), array}})
-        .toJson(QJsonDocument::Compact);
-}
 } // namespace
+
+using TestSupport::utterances;
 
 class TestCaptionManager : public QObject
 {

@@ -8,9 +8,6 @@
 #include "testsupport.h"
 
 #include <QCheckBox>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -26,18 +23,12 @@ private:
     // n captions of 1 s, back to back every 2 s; every tenth one says "needle".
     static void makeCaptions(int n)
     {
-        QJsonArray utterances;
+        QList<std::tuple<int, int, QString>> items;
         for (int i = 0; i < n; ++i) {
-            QJsonObject u;
-            u.insert(QStringLiteral("start_time"), i * 2000);
-            u.insert(QStringLiteral("end_time"), i * 2000 + 1000);
-            u.insert(QStringLiteral("text"), i % 10 == 0 ? QStringLiteral("a needle %1").arg(i)
-                                                         : QStringLiteral("hay %1").arg(i));
-            utterances.append(u);
+            items.append({i * 2000, i * 2000 + 1000,
+                          i % 10 == 0 ? QStringLiteral("a needle %1").arg(i) : QStringLiteral("hay %1").arg(i)});
         }
-        QJsonObject root;
-        root.insert(QStringLiteral("utterances"), utterances);
-        CaptionManager::instance()->createCaptions(QJsonDocument(root).toJson(), false);
+        CaptionManager::instance()->createCaptions(TestSupport::utterances(items), false);
     }
 
     static QString title(CaptionWidget& widget)
@@ -106,9 +97,7 @@ private slots:
     {
         // Two captions that touch: 0-1000 and 1000-2000 ms.
         CaptionManager::instance()->createCaptions(
-            R"({"utterances":[{"start_time":0,"end_time":1010,"text":"one"},
-                               {"start_time":1000,"end_time":2000,"text":"two"}]})",
-            false);
+            TestSupport::utterances({{0, 1010, QStringLiteral("one")}, {1000, 2000, QStringLiteral("two")}}), false);
         CaptionWidget widget;
         widget.show();
         // The first ends 10 ms early (0:0:1.0); the boundary at 1.0 s is the earlier one's.
@@ -124,8 +113,8 @@ private slots:
 
     void clickSeeksToTheCaptionStart()
     {
-        CaptionManager::instance()->createCaptions(
-            R"({"utterances":[{"start_time":5030,"end_time":6000,"text":"late"}]})", false);
+        CaptionManager::instance()->createCaptions(TestSupport::utterances({{5030, 6000, QStringLiteral("late")}}),
+                                                   false);
         CaptionWidget widget;
         widget.show();
         QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);

@@ -6,6 +6,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
@@ -91,6 +94,19 @@ bool makeVideo(const QString& path, double seconds, int width, int height, int f
     }
     args += path;
     return ffmpeg(args) == 0 && QFileInfo(path).size() > 0;
+}
+
+QByteArray utterances(const QList<std::tuple<int, int, QString>>& items)
+{
+    QJsonArray array;
+    for (const auto& item : items) {
+        array.append(QJsonObject{{QStringLiteral("start_time"), std::get<0>(item)},
+                                 {QStringLiteral("end_time"), std::get<1>(item)},
+                                 {QStringLiteral("text"), std::get<2>(item)}});
+    }
+    return QJsonDocument(QJsonObject{{QStringLiteral("state"), QStringLiteral("success")},
+                                     {QStringLiteral("utterances"), array}})
+        .toJson(QJsonDocument::Compact);
 }
 
 bool writeFile(const QString& path, const QByteArray& bytes)
