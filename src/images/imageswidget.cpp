@@ -46,10 +46,13 @@ ImagesWidget::ImagesWidget(QWidget* parent)
     // its width for the style button in every language.
     m_showButton->setIcon(QIcon(QStringLiteral(":/images/imageview/list.svg")));
     m_showButton->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_showButton->setProperty("iconOnly", true);
     m_clearButton->setIcon(QIcon(QStringLiteral(":/images/caption/trash.svg")));
     m_clearButton->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_clearButton->setProperty("iconOnly", true);
 
     auto* header = new QHBoxLayout();
+    header->setSpacing(AppConfig::rate(4));
     header->addWidget(m_selectAllBox);
     header->addWidget(m_countLabel);
     header->addStretch(1);
@@ -58,7 +61,7 @@ ImagesWidget::ImagesWidget(QWidget* parent)
     header->addWidget(m_clearButton);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(AppConfig::rate(6), AppConfig::rate(4), AppConfig::rate(6), AppConfig::rate(4));
+    layout->setContentsMargins(AppConfig::rate(4), AppConfig::rate(4), AppConfig::rate(4), AppConfig::rate(4));
     layout->setSpacing(AppConfig::rate(4));
     layout->addLayout(header);
     layout->addWidget(m_scrollArea, 1);
@@ -88,6 +91,7 @@ void ImagesWidget::retranslate()
     m_clearButton->setToolTip(tr("Clear"));
     m_clearButton->setAccessibleName(m_clearButton->toolTip());
     m_applyStyleButton->setText(tr("Apply Current Style"));
+    m_applyStyleButton->setToolTip(tr("Capture every frame again with the current caption style"));
     m_countLabel->setText(tr("%n frame(s)", nullptr, m_items.size()));
 }
 

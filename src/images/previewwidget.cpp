@@ -160,20 +160,16 @@ PreviewWidget::PreviewWidget(QWidget* parent)
     });
 
     // Output properties
-    // Two rows of three: the size on the first, the spacing and columns on the
-    // second, so every title stays readable in the column's narrowest width.
+    // Three rows of two (size, spacing, scale and columns), so every title stays
+    // readable in the column's narrowest width.
     auto* propertyRow = new QGridLayout();
     propertyRow->setHorizontalSpacing(AppConfig::rate(12));
     propertyRow->setVerticalSpacing(AppConfig::rate(6));
     initPropertyItems();
-    const int cells[][3] = {{PropertyItem::Width, PropertyItem::Height, PropertyItem::Scale},
-                            {PropertyItem::XSpace, PropertyItem::YSpace, PropertyItem::Column}};
-    for (int row = 0; row < 2; ++row) {
-        for (int column = 0; column < 3; ++column) {
-            propertyRow->addWidget(m_propertyItems.value(cells[row][column]), row, column, Qt::AlignLeft);
-        }
+    for (int type = PropertyItem::Width; type <= PropertyItem::Column; ++type) {
+        propertyRow->addWidget(m_propertyItems.value(type), type / 2, type % 2, Qt::AlignLeft);
     }
-    propertyRow->setColumnStretch(3, 1);
+    propertyRow->setColumnStretch(2, 1);
 
     // Zoom bar
     m_fitButton->setCheckable(true);
@@ -242,6 +238,19 @@ void PreviewWidget::retranslate()
     m_radioGroup->button(Horizontal)->setText(tr("Horizontal"));
     for (PropertyItem* item : qAsConst(m_propertyItems)) {
         item->setTitle(propertyTitle(item->getType()));
+    }
+    // The fields of one column line up under each other whatever the titles' lengths.
+    for (int column = 0; column < 2; ++column) {
+        int widest = 0;
+        for (int type = column; type <= PropertyItem::Column; type += 2) {
+            QLabel* title = propertyItem(type)->titleLabel();
+            title->setMinimumWidth(0);
+            title->ensurePolished();
+            widest = qMax(widest, title->sizeHint().width());
+        }
+        for (int type = column; type <= PropertyItem::Column; type += 2) {
+            propertyItem(type)->titleLabel()->setMinimumWidth(widest);
+        }
     }
     m_fitButton->setText(tr("Fit"));
     m_viewButton->setText(tr("Enlarge"));

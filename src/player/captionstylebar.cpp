@@ -45,10 +45,12 @@ CaptionStyleBar::CaptionStyleBar(QWidget* parent)
     m_editText->setObjectName(QStringLiteral("caption_edit_text"));
     m_editText->setIcon(QIcon(QStringLiteral(":/images/videoplay/edit_text.svg")));
     m_editText->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_editText->setProperty("iconOnly", true);
     m_insert = new QPushButton(this);
     m_insert->setObjectName(QStringLiteral("caption_insert"));
     m_insert->setIcon(QIcon(QStringLiteral(":/images/videoplay/add_caption.svg")));
     m_insert->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_insert->setProperty("iconOnly", true);
 
     // The look and the actions on the first row, the position and the
     // switches on the second.

@@ -130,6 +130,8 @@ QPushButton* VideoPlayWidget::createControlButton(int id, const QString& icon, c
     if (!icon.isEmpty()) {
         button->setIcon(QIcon(icon));
         button->setIconSize(AppConfig::rate(QSize(20, 20)));
+        // Transport buttons show only their icon; the capture button gets a text too.
+        button->setProperty("iconOnly", id != ButtonCapture);
     }
     if (!styleProperty.isEmpty()) {
         button->setProperty(styleProperty.toUtf8().constData(), true);

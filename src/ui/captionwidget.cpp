@@ -77,10 +77,8 @@ void CaptionWidget::buildUi()
     emptyLayout->setSpacing(AppConfig::rate(8));
     emptyLayout->addStretch(1);
     emptyLayout->addWidget(m_emptyLabel);
-    auto* autoRow = new QHBoxLayout();
-    autoRow->addWidget(m_languageBox, 1);
-    autoRow->addWidget(m_autoButton);
-    emptyLayout->addLayout(autoRow);
+    emptyLayout->addWidget(m_languageBox);
+    emptyLayout->addWidget(m_autoButton);
     emptyLayout->addWidget(m_createButton);
     emptyLayout->addWidget(m_localButton);
     emptyLayout->addStretch(2);
@@ -93,10 +91,12 @@ void CaptionWidget::buildUi()
     m_showTextButton = new QPushButton(this);
     m_showTextButton->setObjectName(QStringLiteral("show_text"));
     m_showTextButton->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_showTextButton->setProperty("iconOnly", true);
     m_clearButton = new QPushButton(this);
     m_clearButton->setObjectName(QStringLiteral("show"));
     m_clearButton->setIcon(QIcon(QStringLiteral(":/images/caption/trash.svg")));
     m_clearButton->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_clearButton->setProperty("iconOnly", true);
     m_captureButton = new QPushButton(this);
     m_captureButton->setObjectName(QStringLiteral("capture"));
 
@@ -202,7 +202,6 @@ void CaptionWidget::retranslate()
     m_search->setPlaceholderText(tr("search text"));
     m_searchButton->setText(tr("Search"));
     m_popupButton->setText(tr("Popup"));
-    m_selectAll->setText(tr("Select all"));
     m_showTextButton->setIcon(QIcon(m_textShown ? QStringLiteral(":/images/caption/eye_off.svg")
                                                 : QStringLiteral(":/images/caption/eye.svg")));
     m_showTextButton->setToolTip(m_textShown ? tr("Hide") : tr("Show"));
@@ -216,6 +215,7 @@ void CaptionWidget::retranslate()
     m_emptyLabel->setText(tr("No captions yet. Generate them from the video's speech, create one at the "
                              "current time, or add a subtitle file."));
     fillLanguageBox();
+    updateSelectAllText();
     for (CaptionItem* item : qAsConst(m_items)) {
         item->refresh();
     }
