@@ -465,6 +465,8 @@ private slots:
         // The choice is stored for the next start.
         QCOMPARE(GlobalManager::instance()->readSettings(AppConfig::APP_LANG, -1).toInt(), int(TranslateManager::German));
         QVERIFY(!settings.isEmpty());
+        TranslateManager::instance()->init();
+        QCOMPARE(TranslateManager::instance()->getLangType(), TranslateManager::German);
 
         chooseLanguage(TranslateManager::Japanese);
         QCOMPARE(m_window->titleBar()->button(TitleBar::OpenVideo)->text(), QStringLiteral("動画を開く"));

@@ -358,6 +358,10 @@
         <source>Export</source>
         <translation>导出</translation>
     </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
 </context>
 <context>
     <name>ImageItem</name>

@@ -359,6 +359,10 @@
         <source>Export</source>
         <translation>Exporter</translation>
     </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ImageItem</name>

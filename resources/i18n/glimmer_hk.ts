@@ -358,6 +358,10 @@
         <source>Export</source>
         <translation>匯出</translation>
     </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
 </context>
 <context>
     <name>ImageItem</name>

@@ -358,6 +358,10 @@
         <source>Export</source>
         <translation>エクスポート</translation>
     </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>ImageItem</name>
