@@ -6,6 +6,7 @@
 
 #include <QDebug>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QMetaMethod>
 #include <QWidget>
 
@@ -101,6 +102,8 @@ void ImageExporter::moveAndReveal()
                                      : tr("%n picture(s) were exported, but some failed.", nullptr, files.size());
             auto* box = new QMessageBox(QMessageBox::Warning, tr("Export"), text, QMessageBox::Ok, m_owner);
             box->setInformativeText(errors.join(QLatin1Char('\n')));
+            // Qt's own button texts are not in our catalogues.
+            box->button(QMessageBox::Ok)->setText(tr("OK"));
             box->setAttribute(Qt::WA_DeleteOnClose);
             box->open();
         }

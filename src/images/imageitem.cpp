@@ -1,6 +1,7 @@
 #include "imageitem.h"
 
 #include "appconfig.h"
+#include "translatemanager.h"
 
 #include <QCheckBox>
 #include <QDebug>
@@ -36,6 +37,8 @@ ImageItem::ImageItem(QWidget* parent)
     m_deleteButton->setIconSize(AppConfig::rate(QSize(16, 16)));
     m_deleteButton->setCursor(Qt::PointingHandCursor);
     m_deleteButton->setToolTip(tr("Delete"));
+    connect(TranslateManager::instance(), &TranslateManager::notify, m_deleteButton,
+            [this]() { m_deleteButton->setToolTip(tr("Delete")); });
     m_checkBox->setCursor(Qt::PointingHandCursor);
 
     // Check box and delete button float over the top of the picture.

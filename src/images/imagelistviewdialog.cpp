@@ -4,6 +4,7 @@
 #include "imageitem.h"
 #include "savefilebar.h"
 #include "screenmanager.h"
+#include "translatemanager.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -20,10 +21,9 @@ ImageListViewDialog::ImageListViewDialog(QWidget* parent)
     , m_gridLayout(new QGridLayout(m_container))
     , m_saveFileBar(new SaveFileBar(true, this))
     , m_progressBar(new QProgressBar(this))
-    , m_deleteAllButton(new QPushButton(tr("Delete all"), this))
+    , m_deleteAllButton(new QPushButton(this))
 {
     setObjectName(QStringLiteral("image_list_view_dialog"));
-    setWindowTitle(tr("Captured frames"));
     resize(AppConfig::rate(QSize(900, 600)));
 
     m_gridLayout->setSpacing(AppConfig::rate(10));
@@ -55,6 +55,14 @@ ImageListViewDialog::ImageListViewDialog(QWidget* parent)
     });
     connect(m_saveFileBar, &SaveFileBar::exportButtonTap, this, &ImageListViewDialog::exportButtonTap);
     connect(m_deleteAllButton, &QPushButton::clicked, this, &ImageListViewDialog::deleteAllSignal);
+    connect(TranslateManager::instance(), &TranslateManager::notify, this, &ImageListViewDialog::retranslate);
+    retranslate();
+}
+
+void ImageListViewDialog::retranslate()
+{
+    setWindowTitle(tr("Captured frames"));
+    m_deleteAllButton->setText(tr("Delete all"));
 }
 
 void ImageListViewDialog::showImageList(const QList<ImageItem*>& items)

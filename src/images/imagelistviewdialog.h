@@ -47,6 +47,7 @@ protected:
 
 private:
     void updateSelectAllBox();
+    void retranslate();
 
     QScrollArea* m_scrollArea = nullptr;
     QWidget* m_container = nullptr;

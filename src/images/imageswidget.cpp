@@ -10,6 +10,7 @@
 #include <QDebug>
 #include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -19,15 +20,15 @@
 #include <QVBoxLayout>
 
 ImagesWidget::ImagesWidget(QWidget* parent)
-    : QWidget(parent)
+    : BaseWidget(parent)
     , m_scrollArea(new QScrollArea(this))
     , m_stripWidget(new QWidget())
     , m_stripLayout(new QHBoxLayout(m_stripWidget))
     , m_countLabel(new QLabel(this))
-    , m_selectAllBox(new QCheckBox(tr("Select all"), this))
-    , m_showButton(new QPushButton(tr("List view"), this))
-    , m_clearButton(new QPushButton(tr("Clear"), this))
-    , m_applyStyleButton(new QPushButton(tr("Apply Current Style"), this))
+    , m_selectAllBox(new QCheckBox(this))
+    , m_showButton(new QPushButton(this))
+    , m_clearButton(new QPushButton(this))
+    , m_applyStyleButton(new QPushButton(this))
     , m_exporter(new ImageExporter(this))
 {
     setObjectName(QStringLiteral("images_widget"));
@@ -41,7 +42,17 @@ ImagesWidget::ImagesWidget(QWidget* parent)
     m_scrollArea->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scrollArea->setFrameShape(QFrame::NoFrame);
 
+    // List view and clear are icons named by their tooltips: the column keeps
+    // its width for the style button in every language.
+    m_showButton->setIcon(QIcon(QStringLiteral(":/images/imageview/list.svg")));
+    m_showButton->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_showButton->setProperty("iconOnly", true);
+    m_clearButton->setIcon(QIcon(QStringLiteral(":/images/caption/trash.svg")));
+    m_clearButton->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_clearButton->setProperty("iconOnly", true);
+
     auto* header = new QHBoxLayout();
+    header->setSpacing(AppConfig::rate(4));
     header->addWidget(m_selectAllBox);
     header->addWidget(m_countLabel);
     header->addStretch(1);
@@ -50,7 +61,7 @@ ImagesWidget::ImagesWidget(QWidget* parent)
     header->addWidget(m_clearButton);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(AppConfig::rate(6), AppConfig::rate(4), AppConfig::rate(6), AppConfig::rate(4));
+    layout->setContentsMargins(AppConfig::rate(4), AppConfig::rate(4), AppConfig::rate(4), AppConfig::rate(4));
     layout->setSpacing(AppConfig::rate(4));
     layout->addLayout(header);
     layout->addWidget(m_scrollArea, 1);
@@ -63,7 +74,25 @@ ImagesWidget::ImagesWidget(QWidget* parent)
     connect(m_exporter, &ImageExporter::exportFinished, this, &ImagesWidget::exportFinishedSignal);
 
     initListViewDialog();
-    m_countLabel->setText(tr("%n frame(s)", nullptr, 0));
+    retranslate();
+}
+
+void ImagesWidget::changeLang(int type)
+{
+    Q_UNUSED(type)
+    retranslate();
+}
+
+void ImagesWidget::retranslate()
+{
+    m_selectAllBox->setText(tr("Select all"));
+    m_showButton->setToolTip(tr("List view"));
+    m_showButton->setAccessibleName(m_showButton->toolTip());
+    m_clearButton->setToolTip(tr("Clear"));
+    m_clearButton->setAccessibleName(m_clearButton->toolTip());
+    m_applyStyleButton->setText(tr("Apply Current Style"));
+    m_applyStyleButton->setToolTip(tr("Capture every frame again with the current caption style"));
+    m_countLabel->setText(tr("%n frame(s)", nullptr, m_items.size()));
 }
 
 ImagesWidget::~ImagesWidget()

@@ -2,12 +2,12 @@
 #define IMAGESWIDGET_H
 
 #include "appconfig.h"
+#include "basewidget.h"
 
 #include <QList>
 #include <QPixmap>
 #include <QStringList>
 #include <QVariant>
-#include <QWidget>
 
 class ImageExporter;
 class ImageItem;
@@ -22,7 +22,7 @@ class SaveImageThread;
 // The strip of captured frames. Checked frames, in strip order, form the
 // selection kept in GlobalManager::selectedImages(); every change of it is
 // announced with "select_image_complete".
-class ImagesWidget : public QWidget
+class ImagesWidget : public BaseWidget
 {
     Q_OBJECT
 public:
@@ -57,9 +57,11 @@ public slots:
     void exportSelectedHandle(const QString& ext);
     void registerGuideClosedHandle();
     void quitAppFinishEvent();
+    void changeLang(int type) override;
 
 private:
     void removeItem(ImageItem* item);
+    void retranslate();
     void refreshListView();
 
     QList<ImageItem*> m_items;

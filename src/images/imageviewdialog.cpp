@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "imagecanvas.h"
+#include "translatemanager.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
@@ -13,14 +14,13 @@
 ImageViewDialog::ImageViewDialog(QWidget* parent)
     : QDialog(parent)
     , m_canvas(new ImageCanvas(this))
-    , m_fitButton(new QPushButton(tr("Fit"), this))
+    , m_fitButton(new QPushButton(this))
     , m_actualButton(new QPushButton(QStringLiteral("100%"), this))
-    , m_exportButton(new QPushButton(tr("Export"), this))
+    , m_exportButton(new QPushButton(this))
     , m_sizeLabel(new QLabel(this))
     , m_progressBar(new QProgressBar(this))
 {
     setObjectName(QStringLiteral("image_view_dialog"));
-    setWindowTitle(tr("Preview"));
     resize(AppConfig::rate(QSize(900, 640)));
 
     m_fitButton->setCheckable(true);
@@ -46,6 +46,15 @@ ImageViewDialog::ImageViewDialog(QWidget* parent)
     layout->addWidget(m_canvas, 1);
     layout->addWidget(m_progressBar);
     layout->addLayout(bar);
+    connect(TranslateManager::instance(), &TranslateManager::notify, this, &ImageViewDialog::retranslate);
+    retranslate();
+}
+
+void ImageViewDialog::retranslate()
+{
+    setWindowTitle(tr("Preview"));
+    m_fitButton->setText(tr("Fit"));
+    m_exportButton->setText(tr("Export"));
 }
 
 void ImageViewDialog::changePixmap(const QPixmap& pixmap, int zoomType)

@@ -30,6 +30,8 @@ signals:
     void exportButtonTap(QString ext);
 
 private:
+    void retranslate();
+
     ImageCanvas* m_canvas = nullptr;
     QPushButton* m_fitButton = nullptr;
     QPushButton* m_actualButton = nullptr;

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QDebug>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -121,12 +122,12 @@ void addPart(QVector<Part>& parts, int index, const QPixmap& pixmap, const QPoin
 } // namespace
 
 PreviewWidget::PreviewWidget(QWidget* parent)
-    : QWidget(parent)
+    : BaseWidget(parent)
     , m_radioGroup(new QButtonGroup(this))
     , m_canvas(new ImageCanvas(this))
-    , m_fitButton(new QPushButton(tr("Fit"), this))
+    , m_fitButton(new QPushButton(this))
     , m_actualButton(new QPushButton(QStringLiteral("100%"), this))
-    , m_viewButton(new QPushButton(tr("Enlarge"), this))
+    , m_viewButton(new QPushButton(this))
     , m_sizeLabel(new QLabel(this))
     , m_zoomLabel(new QLabel(this))
     , m_saveFileBar(new SaveFileBar(false, this))
@@ -139,10 +140,10 @@ PreviewWidget::PreviewWidget(QWidget* parent)
     // Layout choice
     auto* layoutRow = new QHBoxLayout();
     layoutRow->setSpacing(AppConfig::rate(12));
-    layoutRow->addWidget(new QLabel(tr("Layout:"), this));
-    const QStringList names{tr("Grid"), tr("Vertical"), tr("Horizontal")};
-    for (int i = 0; i < names.size(); ++i) {
-        auto* radio = new QRadioButton(names.at(i), this);
+    m_layoutLabel = new QLabel(this);
+    layoutRow->addWidget(m_layoutLabel);
+    for (int i = Grid; i <= Horizontal; ++i) {
+        auto* radio = new QRadioButton(this);
         m_radioGroup->addButton(radio, i);
         layoutRow->addWidget(radio);
     }
@@ -159,13 +160,16 @@ PreviewWidget::PreviewWidget(QWidget* parent)
     });
 
     // Output properties
-    auto* propertyRow = new QHBoxLayout();
-    propertyRow->setSpacing(AppConfig::rate(10));
+    // Three rows of two (size, spacing, scale and columns), so every title stays
+    // readable in the column's narrowest width.
+    auto* propertyRow = new QGridLayout();
+    propertyRow->setHorizontalSpacing(AppConfig::rate(12));
+    propertyRow->setVerticalSpacing(AppConfig::rate(6));
     initPropertyItems();
-    for (PropertyItem* item : qAsConst(m_propertyItems)) {
-        propertyRow->addWidget(item);
+    for (int type = PropertyItem::Width; type <= PropertyItem::Column; ++type) {
+        propertyRow->addWidget(m_propertyItems.value(type), type / 2, type % 2, Qt::AlignLeft);
     }
-    propertyRow->addStretch(1);
+    propertyRow->setColumnStretch(2, 1);
 
     // Zoom bar
     m_fitButton->setCheckable(true);
@@ -216,7 +220,58 @@ PreviewWidget::PreviewWidget(QWidget* parent)
                 emit exportFinishedSignal(files, errors);
             });
     updatePropertyEnabled();
+    retranslate();
     showImage();
+}
+
+void PreviewWidget::changeLang(int type)
+{
+    Q_UNUSED(type)
+    retranslate();
+}
+
+void PreviewWidget::retranslate()
+{
+    m_layoutLabel->setText(tr("Layout:"));
+    m_radioGroup->button(Grid)->setText(tr("Grid"));
+    m_radioGroup->button(Vertical)->setText(tr("Vertical"));
+    m_radioGroup->button(Horizontal)->setText(tr("Horizontal"));
+    for (PropertyItem* item : qAsConst(m_propertyItems)) {
+        item->setTitle(propertyTitle(item->getType()));
+    }
+    // The fields of one column line up under each other whatever the titles' lengths.
+    for (int column = 0; column < 2; ++column) {
+        int widest = 0;
+        for (int type = column; type <= PropertyItem::Column; type += 2) {
+            QLabel* title = propertyItem(type)->titleLabel();
+            title->setMinimumWidth(0);
+            title->ensurePolished();
+            widest = qMax(widest, title->sizeHint().width());
+        }
+        for (int type = column; type <= PropertyItem::Column; type += 2) {
+            propertyItem(type)->titleLabel()->setMinimumWidth(widest);
+        }
+    }
+    m_fitButton->setText(tr("Fit"));
+    m_viewButton->setText(tr("Enlarge"));
+}
+
+QString PreviewWidget::propertyTitle(int type)
+{
+    switch (type) {
+    case PropertyItem::Width:
+        return tr("Width");
+    case PropertyItem::Height:
+        return tr("Height");
+    case PropertyItem::XSpace:
+        return tr("X space");
+    case PropertyItem::YSpace:
+        return tr("Y space");
+    case PropertyItem::Scale:
+        return tr("Scale");
+    default:
+        return tr("Column");
+    }
 }
 
 QString PreviewWidget::propertyKey(int type)
@@ -241,19 +296,18 @@ void PreviewWidget::initPropertyItems()
 {
     struct Field {
         int type;
-        QString title;
         QString unit;
         QString defaultValue;
     };
-    const QList<Field> fields{{PropertyItem::Width, tr("Width"), QStringLiteral("px"), QStringLiteral("0")},
-                            {PropertyItem::Height, tr("Height"), QStringLiteral("px"), QStringLiteral("0")},
-                            {PropertyItem::XSpace, tr("X space"), QStringLiteral("px"), QStringLiteral("0")},
-                            {PropertyItem::YSpace, tr("Y space"), QStringLiteral("px"), QStringLiteral("0")},
-                            {PropertyItem::Scale, tr("Scale"), QStringLiteral("%"), QStringLiteral("100")},
-                            {PropertyItem::Column, tr("Column"), QString(), QStringLiteral("2")}};
+    const QList<Field> fields{{PropertyItem::Width, QStringLiteral("px"), QStringLiteral("0")},
+                            {PropertyItem::Height, QStringLiteral("px"), QStringLiteral("0")},
+                            {PropertyItem::XSpace, QStringLiteral("px"), QStringLiteral("0")},
+                            {PropertyItem::YSpace, QStringLiteral("px"), QStringLiteral("0")},
+                            {PropertyItem::Scale, QStringLiteral("%"), QStringLiteral("100")},
+                            {PropertyItem::Column, QString(), QStringLiteral("2")}};
     GlobalManager* manager = GlobalManager::instance();
     for (const Field& field : fields) {
-        auto* item = new PropertyItem(field.type, field.title, field.unit, this);
+        auto* item = new PropertyItem(field.type, propertyTitle(field.type), field.unit, this);
         const QString key = propertyKey(field.type);
         const QString value = manager->readInAppSettings(key, field.defaultValue).toString();
         item->setText(value);

@@ -1,12 +1,13 @@
 #ifndef PREVIEWWIDGET_H
 #define PREVIEWWIDGET_H
 
+#include "basewidget.h"
+
 #include <QImage>
 #include <QList>
 #include <QMap>
 #include <QPixmap>
 #include <QStringList>
-#include <QWidget>
 
 class ImageCanvas;
 class ImageExporter;
@@ -22,7 +23,7 @@ class SaveImageThread;
 // The preview panel: stitches the selected frames into one picture, shows it
 // fitted or at 100 %, holds the output properties and layout choice, and
 // exports the picture.
-class PreviewWidget : public QWidget
+class PreviewWidget : public BaseWidget
 {
     Q_OBJECT
 public:
@@ -74,6 +75,7 @@ public slots:
     void resetEditStatus();
     // Waits for a running export; called while the application shuts down.
     void quitAppFinishEvent();
+    void changeLang(int type) override;
 
 private:
     void initPropertyItems();
@@ -81,12 +83,15 @@ private:
     void updatePropertyEnabled();
     void setExporting(bool exporting);
     static QString propertyKey(int type);
+    static QString propertyTitle(int type);
+    void retranslate();
 
     QImage m_groupImage;
     QPixmap m_groupPixmap;
     int m_radioType = Vertical;
     QMap<int, PropertyItem*> m_propertyItems;
     QButtonGroup* m_radioGroup = nullptr;
+    QLabel* m_layoutLabel = nullptr;
     ImageCanvas* m_canvas = nullptr;
     QPushButton* m_fitButton = nullptr;
     QPushButton* m_actualButton = nullptr;

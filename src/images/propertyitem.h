@@ -25,6 +25,7 @@ public:
     void setText(const QString& text);
     void setTitle(const QString& title);
     QLineEdit* lineEdit() const { return m_lineEdit; }
+    QLabel* titleLabel() const { return m_titleLabel; }
 
 signals:
     // The user typed into the field.

@@ -6,6 +6,7 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 
@@ -37,13 +38,23 @@ signals:
     // Carries the chosen format.
     void exportButtonTap(QString ext);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 public slots:
     void globalEventHandle(QString eventName, QVariant value);
     void chooseDirHandle();
 
 private:
+    void retranslate();
+    // Shows the folder shortened in the middle to the field's width.
+    void updateDirText();
+
     QCheckBox* m_selectAllBox = nullptr;
+    QLabel* m_dirLabel = nullptr;
+    QLabel* m_formatLabel = nullptr;
     QLineEdit* m_dirEdit = nullptr;
+    QString m_outputDir;
     QPushButton* m_chooseButton = nullptr;
     QComboBox* m_formatBox = nullptr;
     QPushButton* m_exportButton = nullptr;

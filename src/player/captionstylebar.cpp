@@ -6,10 +6,12 @@
 
 #include <QCheckBox>
 #include <QHBoxLayout>
+#include <QIcon>
 #include <QLabel>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTimer>
+#include <QVBoxLayout>
 
 namespace {
 constexpr int kCommitDelayMs = 300;
@@ -19,8 +21,8 @@ CaptionStyleBar::CaptionStyleBar(QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("caption_style_bar"));
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(AppConfig::rate(0, 2, 0, 2));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(AppConfig::rate(4, 2, 4, 2));
     layout->setSpacing(AppConfig::rate(4));
 
     m_sizeLabel = new QLabel(this);
@@ -37,26 +39,44 @@ CaptionStyleBar::CaptionStyleBar(QWidget* parent)
     m_applyAll->setObjectName(QStringLiteral("apply_all"));
     m_capture = new QCheckBox(this);
     m_capture->setObjectName(QStringLiteral("caption_capture"));
+    // The two actions are icons named by their tooltips, so both rows fit the
+    // player's narrowest width in every language.
     m_editText = new QPushButton(this);
     m_editText->setObjectName(QStringLiteral("caption_edit_text"));
+    m_editText->setIcon(QIcon(QStringLiteral(":/images/videoplay/edit_text.svg")));
+    m_editText->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_editText->setProperty("iconOnly", true);
     m_insert = new QPushButton(this);
     m_insert->setObjectName(QStringLiteral("caption_insert"));
+    m_insert->setIcon(QIcon(QStringLiteral(":/images/videoplay/add_caption.svg")));
+    m_insert->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_insert->setProperty("iconOnly", true);
 
-    layout->addWidget(m_sizeLabel);
-    layout->addWidget(m_fontSize);
-    layout->addWidget(m_xLabel);
-    layout->addWidget(m_x);
-    layout->addWidget(m_yLabel);
-    layout->addWidget(m_y);
-    layout->addWidget(m_borderLabel);
-    layout->addWidget(m_border);
-    layout->addWidget(m_shadowLabel);
-    layout->addWidget(m_shadow);
-    layout->addWidget(m_applyAll);
-    layout->addStretch(1);
-    layout->addWidget(m_capture);
-    layout->addWidget(m_editText);
-    layout->addWidget(m_insert);
+    // The look and the actions on the first row, the position and the
+    // switches on the second.
+    auto* lookRow = new QHBoxLayout();
+    auto* positionRow = new QHBoxLayout();
+    for (QHBoxLayout* row : {lookRow, positionRow}) {
+        row->setSpacing(AppConfig::rate(4));
+        layout->addLayout(row);
+    }
+    auto addField = [](QHBoxLayout* row, QLabel* label, QSpinBox* box) {
+        row->addWidget(label);
+        row->addWidget(box);
+        row->addSpacing(AppConfig::rate(6));
+    };
+    addField(lookRow, m_sizeLabel, m_fontSize);
+    addField(lookRow, m_borderLabel, m_border);
+    addField(lookRow, m_shadowLabel, m_shadow);
+    lookRow->addStretch(1);
+    lookRow->addWidget(m_editText);
+    lookRow->addWidget(m_insert);
+    addField(positionRow, m_xLabel, m_x);
+    addField(positionRow, m_yLabel, m_y);
+    positionRow->addWidget(m_applyAll);
+    positionRow->addSpacing(AppConfig::rate(6));
+    positionRow->addWidget(m_capture);
+    positionRow->addStretch(1);
 
     m_commitTimer = new QTimer(this);
     m_commitTimer->setSingleShot(true);
@@ -90,6 +110,9 @@ QSpinBox* CaptionStyleBar::addSpinBox(const QString& objectName, int minimum, in
     box->setRange(minimum, maximum);
     // Typed numbers count when confirmed, not at every digit.
     box->setKeyboardTracking(false);
+    // Never narrower than the widest value: a squeezed box hides its digits.
+    box->ensurePolished();
+    box->setMinimumWidth(box->sizeHint().width());
     connect(box, QOverload<int>::of(&QSpinBox::valueChanged), this, [this]() { valueEdited(); });
     return box;
 }
@@ -105,9 +128,9 @@ void CaptionStyleBar::changeLang()
     m_applyAll->setToolTip(tr("Apply size, position and border to every caption"));
     m_capture->setText(tr("Capture"));
     m_capture->setToolTip(tr("Include this caption in \"Capture selected\""));
-    m_editText->setText(tr("Edit text"));
+    m_editText->setAccessibleName(tr("Edit text"));
     m_editText->setToolTip(tr("Edit the caption on the video (or double-click it)"));
-    m_insert->setText(tr("Add caption"));
+    m_insert->setAccessibleName(tr("Add caption"));
     m_insert->setToolTip(tr("Add a caption at the current position"));
 }
 

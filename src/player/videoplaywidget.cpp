@@ -130,6 +130,8 @@ QPushButton* VideoPlayWidget::createControlButton(int id, const QString& icon, c
     if (!icon.isEmpty()) {
         button->setIcon(QIcon(icon));
         button->setIconSize(AppConfig::rate(QSize(20, 20)));
+        // Transport buttons show only their icon; the capture button gets a text too.
+        button->setProperty("iconOnly", id != ButtonCapture);
     }
     if (!styleProperty.isEmpty()) {
         button->setProperty(styleProperty.toUtf8().constData(), true);
@@ -186,10 +188,14 @@ QWidget* VideoPlayWidget::createControls()
     buttonRow->addWidget(m_playButton);
     buttonRow->addWidget(next);
     buttonRow->addWidget(stopButton);
-    buttonRow->addSpacing(AppConfig::rate(10));
-    buttonRow->addWidget(capture);
-    buttonRow->addWidget(captureSelected);
     buttonRow->addStretch(1);
+    // The capture buttons get a row of their own: next to the transport, speed
+    // and sound controls they would not fit the player's narrowest width.
+    auto* captureRow = new QHBoxLayout();
+    captureRow->setSpacing(AppConfig::rate(6));
+    captureRow->addWidget(capture);
+    captureRow->addWidget(captureSelected);
+    captureRow->addStretch(1);
 
     m_speedLabel = new QLabel(controls);
     m_speedLabel->setStyleSheet(QStringLiteral("QLabel{color:#636363};"));
@@ -232,6 +238,7 @@ QWidget* VideoPlayWidget::createControls()
     buttonRow->addWidget(m_soundButton);
     buttonRow->addWidget(m_soundSlider);
     layout->addLayout(buttonRow);
+    layout->addLayout(captureRow);
     return controls;
 }
 

@@ -4,6 +4,7 @@
 #include <QDialog>
 
 class QLabel;
+class QPushButton;
 
 // Name, version and purpose of the application.
 class AboutDialog : public QDialog
@@ -13,7 +14,10 @@ public:
     explicit AboutDialog(QWidget* parent = nullptr);
 
 private:
+    void retranslate();
+
     QLabel* m_text = nullptr;
+    QPushButton* m_close = nullptr;
 };
 
 #endif // ABOUTDIALOG_H

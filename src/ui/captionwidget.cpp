@@ -77,10 +77,8 @@ void CaptionWidget::buildUi()
     emptyLayout->setSpacing(AppConfig::rate(8));
     emptyLayout->addStretch(1);
     emptyLayout->addWidget(m_emptyLabel);
-    auto* autoRow = new QHBoxLayout();
-    autoRow->addWidget(m_languageBox, 1);
-    autoRow->addWidget(m_autoButton);
-    emptyLayout->addLayout(autoRow);
+    emptyLayout->addWidget(m_languageBox);
+    emptyLayout->addWidget(m_autoButton);
     emptyLayout->addWidget(m_createButton);
     emptyLayout->addWidget(m_localButton);
     emptyLayout->addStretch(2);
@@ -88,21 +86,30 @@ void CaptionWidget::buildUi()
     m_selectAll = new QCheckBox(this);
     m_selectAll->setObjectName(QStringLiteral("select_all"));
     m_selectAll->setTristate(false);
+    // Hide/show and clear are icons (named by their tooltips): the narrow panel
+    // keeps its width for the tick box and the capture button in every language.
     m_showTextButton = new QPushButton(this);
     m_showTextButton->setObjectName(QStringLiteral("show_text"));
+    m_showTextButton->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_showTextButton->setProperty("iconOnly", true);
     m_clearButton = new QPushButton(this);
     m_clearButton->setObjectName(QStringLiteral("show"));
+    m_clearButton->setIcon(QIcon(QStringLiteral(":/images/caption/trash.svg")));
+    m_clearButton->setIconSize(AppConfig::rate(QSize(16, 16)));
+    m_clearButton->setProperty("iconOnly", true);
     m_captureButton = new QPushButton(this);
     m_captureButton->setObjectName(QStringLiteral("capture"));
 
     m_bottomBar = new QWidget(this);
-    auto* bottom = new QHBoxLayout(m_bottomBar);
+    auto* bottom = new QVBoxLayout(m_bottomBar);
     bottom->setContentsMargins(0, 0, 0, 0);
-    bottom->setSpacing(AppConfig::rate(4));
-    bottom->addWidget(m_selectAll);
-    bottom->addStretch(1);
-    bottom->addWidget(m_showTextButton);
-    bottom->addWidget(m_clearButton);
+    bottom->setSpacing(AppConfig::rate(6));
+    auto* selectRow = new QHBoxLayout();
+    selectRow->setSpacing(AppConfig::rate(4));
+    selectRow->addWidget(m_selectAll, 1);
+    selectRow->addWidget(m_showTextButton);
+    selectRow->addWidget(m_clearButton);
+    bottom->addLayout(selectRow);
     bottom->addWidget(m_captureButton);
 
     auto* layout = new QVBoxLayout(this);
@@ -195,9 +202,12 @@ void CaptionWidget::retranslate()
     m_search->setPlaceholderText(tr("search text"));
     m_searchButton->setText(tr("Search"));
     m_popupButton->setText(tr("Popup"));
-    m_selectAll->setText(tr("Select all"));
-    m_showTextButton->setText(m_textShown ? tr("Hide") : tr("Show"));
-    m_clearButton->setText(tr("Clear"));
+    m_showTextButton->setIcon(QIcon(m_textShown ? QStringLiteral(":/images/caption/eye_off.svg")
+                                                : QStringLiteral(":/images/caption/eye.svg")));
+    m_showTextButton->setToolTip(m_textShown ? tr("Hide") : tr("Show"));
+    m_showTextButton->setAccessibleName(m_showTextButton->toolTip());
+    m_clearButton->setToolTip(tr("Clear"));
+    m_clearButton->setAccessibleName(m_clearButton->toolTip());
     m_captureButton->setText(tr("Capture checked"));
     m_autoButton->setText(tr("Auto captions"));
     m_createButton->setText(tr("Create"));
@@ -205,6 +215,7 @@ void CaptionWidget::retranslate()
     m_emptyLabel->setText(tr("No captions yet. Generate them from the video's speech, create one at the "
                              "current time, or add a subtitle file."));
     fillLanguageBox();
+    updateSelectAllText();
     for (CaptionItem* item : qAsConst(m_items)) {
         item->refresh();
     }

@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "globalmanager.h"
 #include "screenmanager.h"
+#include "translatemanager.h"
 
 #include <QDebug>
 #include <QFile>
@@ -21,8 +22,9 @@ CheckUpdateDialog::CheckUpdateDialog(QWidget* parent)
     , m_runningVersion(GlobalManager::instance()->getAppVersion())
 {
     setObjectName(QStringLiteral("check_update_dialog"));
-    setWindowTitle(tr("Check for update"));
     initUi();
+    retranslate();
+    connect(TranslateManager::instance(), &TranslateManager::notify, this, &CheckUpdateDialog::retranslate);
 
     QFile style(QStringLiteral(":/qss/check_update_dialog.qss"));
     if (style.open(QIODevice::ReadOnly)) {
@@ -56,8 +58,8 @@ void CheckUpdateDialog::initUi()
     m_checkingLabel->setObjectName(QStringLiteral("checking_label"));
     m_checkingLabel->setWordWrap(true);
     m_checkingLabel->setAlignment(Qt::AlignCenter);
-    m_retryButton = new QPushButton(tr("Try again"), checking);
-    m_closeButton = new QPushButton(tr("Close"), checking);
+    m_retryButton = new QPushButton(checking);
+    m_closeButton = new QPushButton(checking);
     auto* checkingButtons = new QHBoxLayout();
     checkingButtons->addStretch();
     checkingButtons->addWidget(m_retryButton);
@@ -72,11 +74,12 @@ void CheckUpdateDialog::initUi()
 
     // Already the latest
     auto* latest = new QWidget(m_stack);
-    m_latestLabel = new QLabel(tr("Your current use is already the latest version."), latest);
+    m_latestLabel = new QLabel(latest);
     m_latestLabel->setObjectName(QStringLiteral("latest_label"));
     m_latestLabel->setWordWrap(true);
     m_latestLabel->setAlignment(Qt::AlignCenter);
-    auto* okButton = new QPushButton(tr("OK"), latest);
+    m_okButton = new QPushButton(latest);
+    QPushButton* okButton = m_okButton;
     auto* latestButtons = new QHBoxLayout();
     latestButtons->addStretch();
     latestButtons->addWidget(okButton);
@@ -89,18 +92,19 @@ void CheckUpdateDialog::initUi()
 
     // Update available
     auto* update = new QWidget(m_stack);
-    auto* title = new QLabel(tr("A new version is available"), update);
+    m_updateTitle = new QLabel(update);
+    QLabel* title = m_updateTitle;
     title->setObjectName(QStringLiteral("update_title_label"));
-    m_versionLabel = new QLabel(tr("Version: %1").arg(QStringLiteral("2.3.0")), update);
-    m_dateLabel = new QLabel(tr("Release date: %1").arg(QStringLiteral("2023.10.12")), update);
-    m_sizeLabel = new QLabel(tr("Size: %1").arg(QStringLiteral("50MB")), update);
+    m_versionLabel = new QLabel(update);
+    m_dateLabel = new QLabel(update);
+    m_sizeLabel = new QLabel(update);
     m_changeLabel = new QLabel(update);
     m_changeLabel->setObjectName(QStringLiteral("change_label"));
     m_changeLabel->setTextFormat(Qt::RichText);
     m_changeLabel->setWordWrap(true);
     m_changeLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    m_laterButton = new QPushButton(tr("Remind me later"), update);
-    m_updateNowButton = new QPushButton(tr("Update now"), update);
+    m_laterButton = new QPushButton(update);
+    m_updateNowButton = new QPushButton(update);
     m_updateNowButton->setObjectName(QStringLiteral("update_now_button"));
     m_updateNowButton->setDefault(true);
     auto* updateButtons = new QHBoxLayout();
@@ -168,10 +172,36 @@ void CheckUpdateDialog::updateInfo(const QByteArray& body)
 
     m_isLatest = isLatestVersion(m_runningVersion, m_version);
 
-    m_versionLabel->setText(tr("Version: %1").arg(m_version));
-    m_dateLabel->setText(tr("Release date: %1").arg(m_date));
-    m_sizeLabel->setText(tr("Size: %1").arg(m_size));
+    m_shownVersion = m_version;
+    m_shownDate = m_date;
+    m_shownSize = m_size;
+    updateDetailTexts();
     m_changeLabel->setText(changeListHtml(m_change));
+}
+
+void CheckUpdateDialog::updateDetailTexts()
+{
+    m_versionLabel->setText(tr("Version: %1").arg(m_shownVersion));
+    m_dateLabel->setText(tr("Release date: %1").arg(m_shownDate));
+    m_sizeLabel->setText(tr("Size: %1").arg(m_shownSize));
+}
+
+void CheckUpdateDialog::retranslate()
+{
+    setWindowTitle(tr("Check for update"));
+    m_retryButton->setText(tr("Try again"));
+    m_closeButton->setText(tr("Close"));
+    m_latestLabel->setText(tr("Your current use is already the latest version."));
+    m_okButton->setText(tr("OK"));
+    m_updateTitle->setText(tr("A new version is available"));
+    m_laterButton->setText(tr("Remind me later"));
+    m_updateNowButton->setText(tr("Update now"));
+    updateDetailTexts();
+    if (m_showingError) {
+        m_checkingLabel->setText(checkErrorText());
+    } else {
+        m_checkingLabel->setText(checkingDotsText());
+    }
 }
 
 void CheckUpdateDialog::checkForUpdate(const QString& tag, int retry)
@@ -206,13 +236,13 @@ void CheckUpdateDialog::downloadLastVersionStatus(DownloadManager::DownloadState
 void CheckUpdateDialog::updateTimer()
 {
     ++m_dotCount;
-    m_checkingLabel->setText(QStringLiteral("%1%2").arg(tr("Check for update"),
-                                                       QString(m_dotCount % 4, QLatin1Char('.'))));
+    m_checkingLabel->setText(checkingDotsText());
 }
 
 void CheckUpdateDialog::showCheckingLayer()
 {
     m_dotCount = 0;
+    m_showingError = false;
     m_checkingLabel->setText(tr("Check for update"));
     m_retryButton->hide();
     m_checkTimer->start();
@@ -228,11 +258,22 @@ void CheckUpdateDialog::showResultLayer()
 void CheckUpdateDialog::showCheckError(const QString& error)
 {
     m_checkTimer->stop();
-    m_checkingLabel->setText(tr("Could not check for updates. Please check your network connection "
-                                "and try again.\n%1")
-                                 .arg(error));
+    m_checkError = error;
+    m_showingError = true;
+    m_checkingLabel->setText(checkErrorText());
     m_retryButton->setVisible(!m_tag.isEmpty());
     m_stack->setCurrentIndex(CheckingLayer);
+}
+
+QString CheckUpdateDialog::checkingDotsText() const
+{
+    return QStringLiteral("%1%2").arg(tr("Check for update"), QString(m_dotCount % 4, QLatin1Char('.')));
+}
+
+QString CheckUpdateDialog::checkErrorText() const
+{
+    return tr("Could not check for updates. Please check your network connection and try again.\n%1")
+        .arg(m_checkError);
 }
 
 CheckUpdateDialog::Layer CheckUpdateDialog::currentLayer() const

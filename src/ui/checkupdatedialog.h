@@ -64,12 +64,18 @@ private:
     void showCheckingLayer();
     void showResultLayer();
     void showCheckError(const QString& error);
+    void retranslate();
+    void updateDetailTexts();
+    QString checkErrorText() const;
+    QString checkingDotsText() const;
 
     QStackedWidget* m_stack = nullptr;
     QLabel* m_checkingLabel = nullptr;
     QPushButton* m_retryButton = nullptr;
     QPushButton* m_closeButton = nullptr;
     QLabel* m_latestLabel = nullptr;
+    QPushButton* m_okButton = nullptr;
+    QLabel* m_updateTitle = nullptr;
     QLabel* m_versionLabel = nullptr;
     QLabel* m_dateLabel = nullptr;
     QLabel* m_sizeLabel = nullptr;
@@ -87,6 +93,12 @@ private:
     QJsonArray m_change;
     QString m_url;
     bool m_isLatest = false;
+    // What the details show: sample values until a version file was read.
+    QString m_shownVersion = QStringLiteral("2.3.0");
+    QString m_shownDate = QStringLiteral("2023.10.12");
+    QString m_shownSize = QStringLiteral("50MB");
+    QString m_checkError;
+    bool m_showingError = false;
     int m_dotCount = 0;
 };
 

@@ -348,6 +348,9 @@ void MainWindow::retranslate()
     m_formatMenu->setTitle(tr("Output format"));
     m_languageMenu->setTitle(tr("Language"));
     m_loadingDialog->setWindowTitle(AppConfig::APP_NAME);
+    if (m_captionDialog) {
+        m_captionDialog->setWindowTitle(tr("Captions"));
+    }
 }
 
 void MainWindow::startUp(const QStringList& arguments)

@@ -1,6 +1,7 @@
 #include "messagedialog.h"
 
 #include "appconfig.h"
+#include "translatemanager.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -32,6 +33,8 @@ MessageDialog::MessageDialog(QWidget* parent)
     layout->addWidget(m_ok, 0, Qt::AlignRight);
     setMinimumWidth(AppConfig::rate(360));
     connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
+    // The message itself was translated when it was raised; the button follows the language.
+    connect(TranslateManager::instance(), &TranslateManager::notify, m_ok, [this]() { m_ok->setText(tr("OK")); });
 }
 
 void MessageDialog::showMessage(const QString& title, const QString& message)

@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "globalmanager.h"
 #include "licensemanager.h"
+#include "translatemanager.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -14,23 +15,20 @@ RegisterDialog::RegisterDialog(QWidget* parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("register_dialog"));
-    setWindowTitle(tr("Register %1").arg(AppConfig::APP_NAME));
     setMinimumWidth(AppConfig::rate(420));
 
-    auto* intro = new QLabel(tr("Enter the licence key you received with your purchase. "
-                                "Registered copies export pictures without a watermark."),
-                             this);
+    m_introLabel = new QLabel(this);
+    QLabel* intro = m_introLabel;
     intro->setWordWrap(true);
     m_keyEdit = new QLineEdit(this);
     m_keyEdit->setObjectName(QStringLiteral("license_key_edit"));
-    m_keyEdit->setPlaceholderText(tr("Licence key"));
     m_keyEdit->setClearButtonEnabled(true);
     m_statusLabel = new QLabel(this);
     m_statusLabel->setObjectName(QStringLiteral("register_status_label"));
     m_statusLabel->setWordWrap(true);
-    m_registerButton = new QPushButton(tr("Register"), this);
+    m_registerButton = new QPushButton(this);
     m_registerButton->setDefault(true);
-    m_closeButton = new QPushButton(tr("Cancel"), this);
+    m_closeButton = new QPushButton(this);
 
     auto* buttons = new QHBoxLayout();
     buttons->addStretch();
@@ -52,7 +50,24 @@ RegisterDialog::RegisterDialog(QWidget* parent)
     connect(GlobalManager::instance(), &GlobalManager::globalEvent, this, &RegisterDialog::globalEventHandle);
 
     m_registerButton->setEnabled(false);
+    retranslate();
     if (GlobalManager::instance()->isRegister()) {
+        showRegisteredState();
+    }
+    connect(TranslateManager::instance(), &TranslateManager::notify, this, &RegisterDialog::retranslate);
+}
+
+void RegisterDialog::retranslate()
+{
+    setWindowTitle(tr("Register %1").arg(AppConfig::APP_NAME));
+    m_introLabel->setText(tr("Enter the licence key you received with your purchase. "
+                             "Registered copies export pictures without a watermark."));
+    m_keyEdit->setPlaceholderText(tr("Licence key"));
+    m_registerButton->setText(tr("Register"));
+    m_closeButton->setText(m_status == StatusRegistered ? tr("Close") : tr("Cancel"));
+    if (m_status == StatusChecking) {
+        m_statusLabel->setText(tr("Checking the licence key..."));
+    } else if (m_status == StatusRegistered) {
         showRegisteredState();
     }
 }
@@ -68,6 +83,7 @@ void RegisterDialog::registerClickHandle()
         return;
     }
     setWaiting(true);
+    m_status = StatusChecking;
     m_statusLabel->setText(tr("Checking the licence key..."));
     LicenseManager::instance()->registerKey(m_keyEdit->text());
 }
@@ -81,6 +97,7 @@ void RegisterDialog::setWaiting(bool waiting)
 
 void RegisterDialog::showRegisteredState()
 {
+    m_status = StatusRegistered;
     m_statusLabel->setText(tr("This copy is registered (%1). Thank you!")
                                .arg(LicenseManager::instance()->maskedKey()));
     m_closeButton->setText(tr("Close"));
@@ -98,6 +115,8 @@ void RegisterDialog::globalEventHandle(QString eventName, QVariant value)
     }
     if (eventName == AppConfig::REGISTER_ERROR) {
         setWaiting(false);
+        // The licence server's own words; they stay as they came.
+        m_status = StatusServer;
         m_statusLabel->setText(value.toString());
     }
 }

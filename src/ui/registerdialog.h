@@ -28,7 +28,12 @@ private:
     void registerClickHandle();
     void setWaiting(bool waiting);
     void showRegisteredState();
+    void retranslate();
 
+    // What the status line says, so that it can be said again in another language.
+    enum Status { StatusNone, StatusChecking, StatusRegistered, StatusServer };
+    Status m_status = StatusNone;
+    QLabel* m_introLabel = nullptr;
     QLabel* m_statusLabel = nullptr;
     QLineEdit* m_keyEdit = nullptr;
     QPushButton* m_registerButton = nullptr;

@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "globalmanager.h"
 #include "registerdialog.h"
+#include "translatemanager.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -13,19 +14,16 @@ RegisterGuideDialog::RegisterGuideDialog(QWidget* parent)
     : QDialog(parent)
 {
     setObjectName(QStringLiteral("register_guide_dialog"));
-    setWindowTitle(tr("Export complete"));
     setMinimumWidth(AppConfig::rate(420));
 
-    auto* title = new QLabel(tr("Your pictures were exported with a watermark"), this);
+    m_title = new QLabel(this);
+    QLabel* title = m_title;
     title->setObjectName(QStringLiteral("guide_title_label"));
-    auto* text = new QLabel(tr("This copy of %1 is not registered, so every exported picture carries "
-                               "the \"%1\" watermark. Register with your licence key to export clean "
-                               "pictures from now on.")
-                                .arg(AppConfig::APP_NAME),
-                            this);
+    m_text = new QLabel(this);
+    QLabel* text = m_text;
     text->setWordWrap(true);
-    m_laterButton = new QPushButton(tr("Later"), this);
-    m_registerButton = new QPushButton(tr("Register now"), this);
+    m_laterButton = new QPushButton(this);
+    m_registerButton = new QPushButton(this);
     m_registerButton->setDefault(true);
 
     auto* buttons = new QHBoxLayout();
@@ -49,6 +47,20 @@ RegisterGuideDialog::RegisterGuideDialog(QWidget* parent)
         hide();
         dialog->open();
     });
+    connect(TranslateManager::instance(), &TranslateManager::notify, this, &RegisterGuideDialog::retranslate);
+    retranslate();
+}
+
+void RegisterGuideDialog::retranslate()
+{
+    setWindowTitle(tr("Export complete"));
+    m_title->setText(tr("Your pictures were exported with a watermark"));
+    m_text->setText(tr("This copy of %1 is not registered, so every exported picture carries "
+                       "the \"%1\" watermark. Register with your licence key to export clean "
+                       "pictures from now on.")
+                        .arg(AppConfig::APP_NAME));
+    m_laterButton->setText(tr("Later"));
+    m_registerButton->setText(tr("Register now"));
 }
 
 bool RegisterGuideDialog::showAfterExport(QWidget* parent, const std::function<void()>& then)

@@ -5,6 +5,7 @@
 
 #include <functional>
 
+class QLabel;
 class QPushButton;
 
 // Shown once per run after an export from an unregistered copy: explains the
@@ -25,6 +26,10 @@ public:
     QPushButton* laterButton() const { return m_laterButton; }
 
 private:
+    void retranslate();
+
+    QLabel* m_title = nullptr;
+    QLabel* m_text = nullptr;
     QPushButton* m_registerButton = nullptr;
     QPushButton* m_laterButton = nullptr;
 };
