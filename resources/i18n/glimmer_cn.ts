@@ -341,6 +341,10 @@
         <source>The speech service could not recognise the audio.</source>
         <translation>语音识别服务无法识别该音频。</translation>
     </message>
+    <message>
+        <source>The speech service could not be reached: %1</source>
+        <translation>无法连接语音识别服务：%1</translation>
+    </message>
 </context>
 <context>
     <name>ImageExporter</name>
@@ -602,10 +606,6 @@
         <translation>自动生成字幕失败</translation>
     </message>
     <message>
-        <source>The speech service could not be reached or refused the request.</source>
-        <translation>无法连接语音识别服务，或请求被拒绝。</translation>
-    </message>
-    <message>
         <source>Capturing images</source>
         <translation>正在截图</translation>
     </message>
@@ -620,6 +620,10 @@
     <message>
         <source>Applying current style</source>
         <translation>正在应用当前样式</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>无法连接语音识别服务。</translation>
     </message>
 </context>
 <context>
@@ -891,6 +895,13 @@
     <message>
         <source>New caption</source>
         <translation>新字幕</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The video player could not be started: %1</source>
+        <translation>无法启动视频播放器：%1</translation>
     </message>
 </context>
 </TS>

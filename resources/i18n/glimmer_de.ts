@@ -341,6 +341,10 @@
         <source>The speech service could not recognise the audio.</source>
         <translation>Der Spracherkennungsdienst konnte den Ton nicht erkennen.</translation>
     </message>
+    <message>
+        <source>The speech service could not be reached: %1</source>
+        <translation>Der Spracherkennungsdienst ist nicht erreichbar: %1</translation>
+    </message>
 </context>
 <context>
     <name>ImageExporter</name>
@@ -604,10 +608,6 @@
         <translation>Automatische Untertitel fehlgeschlagen</translation>
     </message>
     <message>
-        <source>The speech service could not be reached or refused the request.</source>
-        <translation>Der Spracherkennungsdienst war nicht erreichbar oder hat die Anfrage abgelehnt.</translation>
-    </message>
-    <message>
         <source>Capturing images</source>
         <translation>Bilder werden erfasst</translation>
     </message>
@@ -622,6 +622,10 @@
     <message>
         <source>Applying current style</source>
         <translation>Aktueller Stil wird angewendet</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>Der Spracherkennungsdienst ist nicht erreichbar.</translation>
     </message>
 </context>
 <context>
@@ -893,6 +897,13 @@
     <message>
         <source>New caption</source>
         <translation>Neuer Untertitel</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The video player could not be started: %1</source>
+        <translation>Der Videoplayer konnte nicht gestartet werden: %1</translation>
     </message>
 </context>
 </TS>

@@ -341,6 +341,10 @@
         <source>The speech service could not recognise the audio.</source>
         <translation>The speech service could not recognise the audio.</translation>
     </message>
+    <message>
+        <source>The speech service could not be reached: %1</source>
+        <translation>The speech service could not be reached: %1</translation>
+    </message>
 </context>
 <context>
     <name>ImageExporter</name>
@@ -604,10 +608,6 @@
         <translation>Automatic captions failed</translation>
     </message>
     <message>
-        <source>The speech service could not be reached or refused the request.</source>
-        <translation>The speech service could not be reached or refused the request.</translation>
-    </message>
-    <message>
         <source>Capturing images</source>
         <translation>Capturing images</translation>
     </message>
@@ -622,6 +622,10 @@
     <message>
         <source>Applying current style</source>
         <translation>Applying current style</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>The speech service could not be reached.</translation>
     </message>
 </context>
 <context>
@@ -893,6 +897,13 @@
     <message>
         <source>New caption</source>
         <translation>New caption</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The video player could not be started: %1</source>
+        <translation>The video player could not be started: %1</translation>
     </message>
 </context>
 </TS>

@@ -341,6 +341,10 @@
         <source>The speech service could not recognise the audio.</source>
         <translation>El servicio de reconocimiento de voz no ha podido reconocer el audio.</translation>
     </message>
+    <message>
+        <source>The speech service could not be reached: %1</source>
+        <translation>No se pudo conectar con el servicio de reconocimiento de voz: %1</translation>
+    </message>
 </context>
 <context>
     <name>ImageExporter</name>
@@ -604,10 +608,6 @@
         <translation>Error al generar los subtítulos automáticos</translation>
     </message>
     <message>
-        <source>The speech service could not be reached or refused the request.</source>
-        <translation>No se ha podido contactar con el servicio de reconocimiento de voz o ha rechazado la solicitud.</translation>
-    </message>
-    <message>
         <source>Capturing images</source>
         <translation>Capturando imágenes</translation>
     </message>
@@ -622,6 +622,10 @@
     <message>
         <source>Applying current style</source>
         <translation>Aplicando el estilo actual</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>No se pudo conectar con el servicio de reconocimiento de voz.</translation>
     </message>
 </context>
 <context>
@@ -893,6 +897,13 @@
     <message>
         <source>New caption</source>
         <translation>Nuevo subtítulo</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The video player could not be started: %1</source>
+        <translation>No se pudo iniciar el reproductor de vídeo: %1</translation>
     </message>
 </context>
 </TS>

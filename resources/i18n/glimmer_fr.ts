@@ -341,6 +341,10 @@
         <source>The speech service could not recognise the audio.</source>
         <translation>Le service de reconnaissance vocale n’a pas pu reconnaître l’audio.</translation>
     </message>
+    <message>
+        <source>The speech service could not be reached: %1</source>
+        <translation>Impossible de joindre le service de reconnaissance vocale : %1</translation>
+    </message>
 </context>
 <context>
     <name>ImageExporter</name>
@@ -604,10 +608,6 @@
         <translation>Échec des sous-titres automatiques</translation>
     </message>
     <message>
-        <source>The speech service could not be reached or refused the request.</source>
-        <translation>Le service de reconnaissance vocale est injoignable ou a refusé la demande.</translation>
-    </message>
-    <message>
         <source>Capturing images</source>
         <translation>Capture des images</translation>
     </message>
@@ -622,6 +622,10 @@
     <message>
         <source>Applying current style</source>
         <translation>Application du style actuel</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>Impossible de joindre le service de reconnaissance vocale.</translation>
     </message>
 </context>
 <context>
@@ -893,6 +897,13 @@
     <message>
         <source>New caption</source>
         <translation>Nouveau sous-titre</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The video player could not be started: %1</source>
+        <translation>Impossible de démarrer le lecteur vidéo : %1</translation>
     </message>
 </context>
 </TS>

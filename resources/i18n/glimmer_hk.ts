@@ -341,6 +341,10 @@
         <source>The speech service could not recognise the audio.</source>
         <translation>語音辨識服務無法辨識此音訊。</translation>
     </message>
+    <message>
+        <source>The speech service could not be reached: %1</source>
+        <translation>無法連線至語音辨識服務：%1</translation>
+    </message>
 </context>
 <context>
     <name>ImageExporter</name>
@@ -602,10 +606,6 @@
         <translation>自動產生字幕失敗</translation>
     </message>
     <message>
-        <source>The speech service could not be reached or refused the request.</source>
-        <translation>無法連線至語音辨識服務，或要求遭到拒絕。</translation>
-    </message>
-    <message>
         <source>Capturing images</source>
         <translation>正在截圖</translation>
     </message>
@@ -620,6 +620,10 @@
     <message>
         <source>Applying current style</source>
         <translation>正在套用目前樣式</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>無法連線至語音辨識服務。</translation>
     </message>
 </context>
 <context>
@@ -891,6 +895,13 @@
     <message>
         <source>New caption</source>
         <translation>新字幕</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The video player could not be started: %1</source>
+        <translation>無法啟動影片播放器：%1</translation>
     </message>
 </context>
 </TS>

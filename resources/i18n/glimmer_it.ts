@@ -341,6 +341,10 @@
         <source>The speech service could not recognise the audio.</source>
         <translation>Il servizio di riconoscimento vocale non è riuscito a riconoscere l’audio.</translation>
     </message>
+    <message>
+        <source>The speech service could not be reached: %1</source>
+        <translation>Impossibile raggiungere il servizio di riconoscimento vocale: %1</translation>
+    </message>
 </context>
 <context>
     <name>ImageExporter</name>
@@ -604,10 +608,6 @@
         <translation>Sottotitoli automatici non riusciti</translation>
     </message>
     <message>
-        <source>The speech service could not be reached or refused the request.</source>
-        <translation>Il servizio di riconoscimento vocale non è raggiungibile o ha rifiutato la richiesta.</translation>
-    </message>
-    <message>
         <source>Capturing images</source>
         <translation>Cattura delle immagini</translation>
     </message>
@@ -622,6 +622,10 @@
     <message>
         <source>Applying current style</source>
         <translation>Applicazione dello stile attuale</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>Impossibile raggiungere il servizio di riconoscimento vocale.</translation>
     </message>
 </context>
 <context>
@@ -893,6 +897,13 @@
     <message>
         <source>New caption</source>
         <translation>Nuovo sottotitolo</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The video player could not be started: %1</source>
+        <translation>Impossibile avviare il lettore video: %1</translation>
     </message>
 </context>
 </TS>

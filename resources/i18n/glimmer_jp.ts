@@ -341,6 +341,10 @@
         <source>The speech service could not recognise the audio.</source>
         <translation>音声認識サービスが音声を認識できませんでした。</translation>
     </message>
+    <message>
+        <source>The speech service could not be reached: %1</source>
+        <translation>音声認識サービスに接続できませんでした：%1</translation>
+    </message>
 </context>
 <context>
     <name>ImageExporter</name>
@@ -602,10 +606,6 @@
         <translation>自動字幕の生成に失敗しました</translation>
     </message>
     <message>
-        <source>The speech service could not be reached or refused the request.</source>
-        <translation>音声認識サービスに接続できないか、要求が拒否されました。</translation>
-    </message>
-    <message>
         <source>Capturing images</source>
         <translation>画像をキャプチャしています</translation>
     </message>
@@ -620,6 +620,10 @@
     <message>
         <source>Applying current style</source>
         <translation>現在のスタイルを適用しています</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>音声認識サービスに接続できませんでした。</translation>
     </message>
 </context>
 <context>
@@ -891,6 +895,13 @@
     <message>
         <source>New caption</source>
         <translation>新しい字幕</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The video player could not be started: %1</source>
+        <translation>動画プレーヤーを起動できませんでした：%1</translation>
     </message>
 </context>
 </TS>

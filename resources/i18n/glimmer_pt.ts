@@ -341,6 +341,10 @@
         <source>The speech service could not recognise the audio.</source>
         <translation>O serviço de reconhecimento de fala não conseguiu reconhecer o áudio.</translation>
     </message>
+    <message>
+        <source>The speech service could not be reached: %1</source>
+        <translation>Não foi possível acessar o serviço de reconhecimento de fala: %1</translation>
+    </message>
 </context>
 <context>
     <name>ImageExporter</name>
@@ -604,10 +608,6 @@
         <translation>Falha nas legendas automáticas</translation>
     </message>
     <message>
-        <source>The speech service could not be reached or refused the request.</source>
-        <translation>Não foi possível acessar o serviço de reconhecimento de fala, ou ele recusou a solicitação.</translation>
-    </message>
-    <message>
         <source>Capturing images</source>
         <translation>Capturando imagens</translation>
     </message>
@@ -622,6 +622,10 @@
     <message>
         <source>Applying current style</source>
         <translation>Aplicando o estilo atual</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>Não foi possível acessar o serviço de reconhecimento de fala.</translation>
     </message>
 </context>
 <context>
@@ -893,6 +897,13 @@
     <message>
         <source>New caption</source>
         <translation>Nova legenda</translation>
+    </message>
+</context>
+<context>
+    <name>main</name>
+    <message>
+        <source>The video player could not be started: %1</source>
+        <translation>Não foi possível iniciar o reprodutor de vídeo: %1</translation>
     </message>
 </context>
 </TS>
