@@ -195,7 +195,8 @@ void MainWindow::initVideoPlayWidget()
 void MainWindow::initImagesWidget()
 {
     m_imagesWidget = new ImagesWidget(this);
-    m_imagesWidget->setMinimumHeight(AppConfig::rate(120));
+    // Room for the header row and one row of thumbnails with their scroll bar.
+    m_imagesWidget->setMinimumHeight(AppConfig::rate(150));
     connect(m_imagesWidget, &ImagesWidget::showRegisterGuide, this, [this]() {
         RegisterGuideDialog::showAfterExport(this, [this]() { m_imagesWidget->registerGuideClosedHandle(); });
     });
