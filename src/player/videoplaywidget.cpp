@@ -47,6 +47,7 @@ VideoPlayWidget::VideoPlayWidget(QWidget* parent)
     : BaseWidget(parent)
 {
     setObjectName(QStringLiteral("video_play_widget"));
+    setAttribute(Qt::WA_StyledBackground, true);
     setAcceptDrops(true);
 
     auto* layout = new QVBoxLayout(this);
