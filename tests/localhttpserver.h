@@ -51,16 +51,6 @@ public:
     int requestCount(const QString& path) const { return m_counts.value(path); }
     QList<Request> requests() const { return m_requests; }
 
-    // A port on which nothing listens.
-    static quint16 closedPort()
-    {
-        QTcpServer probe;
-        probe.listen(QHostAddress::LocalHost, 0);
-        const quint16 port = probe.serverPort();
-        probe.close();
-        return port;
-    }
-
 private:
     void accept(QTcpSocket* socket)
     {

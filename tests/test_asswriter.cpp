@@ -6,9 +6,6 @@
 #include "globalmanager.h"
 #include "testsupport.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QRect>
 #include <QtTest>
 
@@ -17,14 +14,7 @@ extern "C" {
 }
 
 namespace {
-void quietLibass(int level, const char* format, va_list args, void* data)
-{
-    Q_UNUSED(format)
-    Q_UNUSED(args)
-    Q_UNUSED(data)
-    Q_UNUSED(level)
-}
-
+void quietLibass(int, const char*, va_list, void*) {}
 } // namespace
 
 using TestSupport::utterances;

@@ -12,7 +12,6 @@
 #include "videoplaywidget.h"
 
 #include <QSignalSpy>
-#include <QTcpServer>
 #include <QtTest>
 
 // The automatic-caption flow as a person runs it from the window, against the
@@ -24,23 +23,12 @@ private:
     MainWindow* m_window = nullptr;
     QString m_video;
 
-    static bool hasEvent(const QSignalSpy& spy, const QString& name)
-    {
-        for (const QList<QVariant>& event : spy) {
-            if (event.at(0).toString() == name) {
-                return true;
-            }
-        }
-        return false;
-    }
-
 private slots:
     void initTestCase()
     {
         TestSupport::isolate();
         const QString dir = TestSupport::makeWorkDir(QStringLiteral("autocaptions"));
-        const QString speech = QStringLiteral(
-            "/usr/share/pocketsphinx/test/data/librivox/sense_and_sensibility_01_austen_64kb-0870.wav");
+        const QString speech = TestSupport::librivox("0870");
         m_video = dir + QStringLiteral("/spoken.mp4");
         QCOMPARE(TestSupport::ffmpeg({"-f", "lavfi", "-i", "testsrc2=size=320x240:rate=25", "-i", speech, "-shortest",
                                       "-c:v", "libx264", "-preset", "ultrafast", "-c:a", "aac", m_video}),
@@ -49,10 +37,7 @@ private slots:
         GlobalManager* global = GlobalManager::instance();
         global->saveSettings(AppConfig::FIRST_OPEN_APP, true);
         // The program's own service on a free port, started by the program itself.
-        QTcpServer probe;
-        probe.listen(QHostAddress::LocalHost);
-        const QString url = QStringLiteral("http://127.0.0.1:%1").arg(probe.serverPort());
-        probe.close();
+        const QString url = QStringLiteral("http://127.0.0.1:%1").arg(TestSupport::freePort());
         SpeechService::instance()->setManagedBaseUrl(url);
         SpeechService::instance()->setProgram(SpeechdProcess::program());
         global->saveSettings(AppConfig::SPEECH_SERVER_URL, url);
@@ -101,8 +86,8 @@ private slots:
         QVERIFY(m_window->loadingDialog()->isVisible());
         m_window->loadingDialog()->reject();
         QTest::qWait(3000);
-        QVERIFY(hasEvent(events, AppConfig::STOP_AI_CAPTION));
-        QVERIFY(!hasEvent(events, AppConfig::TASK_ID));
+        QVERIFY(TestSupport::hasEvent(events, AppConfig::STOP_AI_CAPTION));
+        QVERIFY(!TestSupport::hasEvent(events, AppConfig::TASK_ID));
         QVERIFY(!m_window->messageDialog()->isVisible());
         QVERIFY(CaptionManager::instance()->getCaptions().isEmpty());
     }

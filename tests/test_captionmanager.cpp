@@ -6,7 +6,6 @@
 #include "testsupport.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QtTest>
@@ -33,11 +32,7 @@ const QString kEventsHeader = QStringLiteral(
 
 QString readText(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return QStringLiteral("<unreadable %1>").arg(path);
-    }
-    return QString::fromUtf8(file.readAll());
+    return QString::fromUtf8(TestSupport::readFile(path));
 }
 
 } // namespace
@@ -65,12 +60,6 @@ private slots:
 
     void languageListAndPaths()
     {
-        QCOMPARE(m->getLangItems().size(), 8);
-        QCOMPARE(m->getLangItemIndexByKey(1), 4);
-        QCOMPARE(m->getLangItemIndexByKey(0), 3);
-        QCOMPARE(m->getLangItemIndexByKey(42), -1);
-        QCOMPARE(m->getLangItemByKey(9)->code, QStringLiteral("ko-KR"));
-
         m->setCurrentLangItem(12345);
         QVERIFY(m->getCurrentLangItem() == nullptr);
         QVERIFY(m->getAudioFilePath().endsWith(QStringLiteral("/Glimmer/holiday.clip-.mp3")));
@@ -88,19 +77,6 @@ private slots:
         m->initLang();
         QVERIFY(m->getCurrentLangItem() != nullptr);
         QCOMPARE(m->getCurrentLangItem()->key, 8);
-    }
-
-    void captionAccessors()
-    {
-        QCOMPARE(m->getMaxTextWidth(), 0);
-        m->createCaptions(utterances({{0, 900, QStringLiteral("a")}, {1000, 2000, QStringLiteral("a much longer line")}}),
-                          false);
-        QCOMPARE(m->getCaptionDataByIndex(1), m->getCaptions().first());
-        QCOMPARE(m->getCaptionDataByIndex(2)->text, QStringLiteral("a much longer line"));
-        QVERIFY(m->getCaptionDataByIndex(3) == nullptr);
-        QVERIFY(m->getMaxTextWidth() > 0);
-        m->clearCaptions();
-        QVERIFY(m->getCaptions().isEmpty());
     }
 
     void timeFormat_data()
@@ -362,70 +338,63 @@ private slots:
         QCOMPARE(readText(m->getTempAssFilePath()), expected);
     }
 
-    void lineEditWithoutLoadedFile()
+    void insert_data()
     {
-        // Generated captions have no file lines: the working file must survive.
-        m->loadCaptionFile(TestSupport::makeWorkDir(QStringLiteral("nolines")) + QStringLiteral("/absent.ass"));
-        m->createCaptions(utterances({{0, 1000, QStringLiteral("generated")}}), false);
-        const QString before = readText(m->getTempAssFilePath());
-        QSignalSpy spy(GlobalManager::instance(), &GlobalManager::globalEvent);
-        m->getCaptionDataByIndex(1)->text = QStringLiteral("changed");
-        m->changeCaption(m->getCaptionDataByIndex(1));
-        QCOMPARE(readText(m->getTempAssFilePath()), before);
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0).at(0).toString(), AppConfig::UPDATE_CAPTION);
+        QTest::addColumn<QList<QPoint>>("existing"); // start and end of each caption, ms
+        QTest::addColumn<double>("at");
+        QTest::addColumn<int>("length");
+        QTest::addColumn<int>("index"); // 0: nothing may be inserted
+        QTest::addColumn<QString>("start");
+        QTest::addColumn<QString>("end");
+        const QList<QPoint> gap{{1000, 3000}, {5000, 8000}};
+        const QList<QPoint> tight{{1500, 3000}, {3005, 4000}};
+        // The gap up to the next caption, less the 10 ms spacing, is shorter than asked.
+        QTest::newRow("into a gap") << gap << 3.0 << 3000 << 2 << "0:0:3.0" << "0:0:4.99";
+        QTest::newRow("short request") << gap << 3.5 << 300 << 2 << "0:0:3.50" << "0:0:3.80";
+        QTest::newRow("before the first") << tight << 0.5 << 3000 << 1 << "0:0:0.50" << "0:0:1.50";
+        QTest::newRow("after the last") << tight << 10.0 << 3000 << 3 << "0:0:10.0" << "0:0:13.0";
+        QTest::newRow("inside a caption") << tight << 2.0 << 3000 << 0 << "" << "";
+        QTest::newRow("gap under the spacing") << tight << 3.0 << 3000 << 0 << "" << "";
+        QTest::newRow("empty list") << QList<QPoint>() << 1.25 << 3000 << 1 << "0:0:1.25" << "0:0:4.25";
     }
 
-    void insertIntoGap()
+    void insert()
     {
-        m->createCaptions(utterances({{1000, 3000, QStringLiteral("a")}, {5000, 8000, QStringLiteral("b")}}),
-                          false);
-        CaptionInfo* inserted = m->insertCaptionInfo(3.0, 3000);
+        QFETCH(QList<QPoint>, existing);
+        QFETCH(double, at);
+        QFETCH(int, length);
+        QFETCH(int, index);
+        QFETCH(QString, start);
+        QFETCH(QString, end);
+        QList<std::tuple<int, int, QString>> items;
+        for (const QPoint& span : existing) {
+            items.append({span.x(), span.y(), QString::number(span.x())});
+        }
+        m->createCaptions(utterances(items), false);
+        CaptionInfo* inserted = m->insertCaptionInfo(at, length);
+        if (index == 0) {
+            QVERIFY(inserted == nullptr);
+            QCOMPARE(m->getCaptions().size(), existing.size());
+            return;
+        }
         QVERIFY(inserted);
-        QCOMPARE(inserted->start, QStringLiteral("0:0:3.0"));
-        QCOMPARE(inserted->end, QStringLiteral("0:0:4.99"));
-        QCOMPARE(CaptionManager::parseAssTime(inserted->end) - CaptionManager::parseAssTime(inserted->start), 1990);
-        QCOMPARE(m->getCaptions().indexOf(inserted), 1);
+        QCOMPARE(inserted->start, start);
+        QCOMPARE(inserted->end, end);
         QCOMPARE(inserted->style, QStringLiteral("Default"));
-        QVERIFY(inserted->captionStyle && inserted->captionStyle != m->getCaptionDataByIndex(1)->captionStyle);
-        QVERIFY(inserted->line.isEmpty());
+        QCOMPARE(m->getCaptions().size(), existing.size() + 1);
+        QCOMPARE(m->getCaptions().at(index - 1), inserted);
         for (int i = 0; i < m->getCaptions().size(); ++i) {
             QCOMPARE(m->getCaptions().at(i)->index, i + 1);
+            // Its own style record: editing it must not restyle its neighbours.
+            QVERIFY(m->getCaptions().at(i) == inserted || m->getCaptions().at(i)->captionStyle != inserted->captionStyle);
         }
-
-        // A short gap: the requested length wins.
-        CaptionInfo* shortOne = m->insertCaptionInfo(8.5, 300);
-        QVERIFY(shortOne);
-        QCOMPARE(shortOne->end, QStringLiteral("0:0:8.80"));
     }
 
-    void insertAtEdges()
+    void insertedCaptionIsWritten()
     {
-        m->createCaptions(utterances({{1500, 3000, QStringLiteral("a")}, {3005, 4000, QStringLiteral("b")}}),
-                          false);
+        m->createCaptions(utterances({{1500, 3000, QStringLiteral("a")}}), false);
         CaptionInfo* before = m->insertCaptionInfo(0.5, 3000);
         QVERIFY(before);
-        QCOMPARE(before->start, QStringLiteral("0:0:0.50"));
-        QCOMPARE(before->end, QStringLiteral("0:0:1.50"));
-        QCOMPARE(before->index, 1);
-        QCOMPARE(m->getCaptions().first(), before);
-        QCOMPARE(m->getCaptionDataByIndex(2)->text, QStringLiteral("a"));
-        QCOMPARE(m->getCaptionDataByIndex(2)->index, 2);
-
-        CaptionInfo* after = m->insertCaptionInfo(10.0, 3000);
-        QVERIFY(after);
-        QCOMPARE(after->start, QStringLiteral("0:0:10.0"));
-        QCOMPARE(after->end, QStringLiteral("0:0:13.0"));
-        QCOMPARE(after->index, 4);
-        QCOMPARE(m->getCaptions().last(), after);
-
-        // Inside a caption, or in a gap narrower than the 10 ms spacing: nothing.
-        const int count = m->getCaptions().size();
-        QVERIFY(m->insertCaptionInfo(2.0, 3000) == nullptr);
-        QVERIFY(m->insertCaptionInfo(3.0, 3000) == nullptr);
-        QCOMPARE(m->getCaptions().size(), count);
-
-        // An inserted caption is then written like any other.
         before->captionEdit = new CaptionEdit;
         before->captionEdit->text = QStringLiteral("new one");
         before->isInsert = true;
@@ -434,18 +403,11 @@ private slots:
                     .contains(QStringLiteral("\nDialogue: 0,0:0:0.50,0:0:1.50,Default,,0,0,0,,"
                                              "{\\fs18\\bord1\\shad1\\pos(192,268)}new one\n"
                                              "Dialogue: 0,0:0:1.50,0:0:3.0,Default,,0,0,0,,a\n")));
-    }
 
-    void insertIntoEmptyList()
-    {
-        QVERIFY(m->getCaptions().isEmpty());
+        // The player may call the rewrite before attaching an edit record.
+        m->createCaptions(utterances({}), false);
         CaptionInfo* info = m->insertCaptionInfo(1.25, 3000);
         QVERIFY(info);
-        QCOMPARE(info->index, 1);
-        QCOMPARE(info->start, QStringLiteral("0:0:1.25"));
-        QCOMPARE(info->end, QStringLiteral("0:0:4.25"));
-        QCOMPARE(info->style, QStringLiteral("Default"));
-        // The player may call the rewrite before attaching an edit record.
         m->changeCaptionNew(info, false);
         QVERIFY(readText(m->getTempAssFilePath()).endsWith(
             QStringLiteral("Dialogue: 0,0:0:1.25,0:0:4.25,Default,,0,0,0,,{\\fs18\\bord1\\shad1\\pos(192,268)}\n")));

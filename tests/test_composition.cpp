@@ -31,6 +31,7 @@ QPixmap makeFrame(int frame, int width, int height)
 }
 
 const QRgb kWhite = qRgb(255, 255, 255);
+} // namespace
 
 // One entry per placed frame: where its visible part lands and which source
 // rectangle it shows. Later entries cover earlier ones; the rest is white.
@@ -39,7 +40,7 @@ struct Placement {
     QPoint at;
     QRect source;
 };
-} // namespace
+Q_DECLARE_METATYPE(Placement)
 
 class TestComposition : public QObject
 {
@@ -47,23 +48,13 @@ class TestComposition : public QObject
 private slots:
     void initTestCase();
     void cleanup();
-    void gridExample();
-    void gridFewerThanColumns();
-    void gridNegativeSpacing();
-    void gridNonNumericColumn();
-    void gridLargerSecondFrame();
-    void verticalCaptionBands();
-    void verticalPositiveSpacing();
-    void verticalOtherFrameSizes();
-    void horizontalNegativeSpacing();
-    void singleImage_data();
-    void singleImage();
+    void layouts_data();
+    void layouts();
     void emptySelectionKeepsComposite();
 
 private:
     QPixmap compose(const QList<QSize>& sizes, int layout, const QString& x, const QString& y,
                     const QString& column);
-    void verify(const QPixmap& composite, const QSize& expectedSize, const QList<Placement>& placements);
 
     PreviewWidget* m_preview = nullptr;
     QList<ImageItem*> m_items;
@@ -104,153 +95,109 @@ QPixmap TestComposition::compose(const QList<QSize>& sizes, int layout, const QS
     return m_preview->getGroupPixmap();
 }
 
-void TestComposition::verify(const QPixmap& composite, const QSize& expectedSize,
-                             const QList<Placement>& placements)
+void TestComposition::layouts_data()
 {
+    QTest::addColumn<QList<QSize>>("sizes");
+    QTest::addColumn<int>("layout");
+    QTest::addColumn<QString>("x");
+    QTest::addColumn<QString>("y");
+    QTest::addColumn<QString>("column");
+    QTest::addColumn<QSize>("expectedSize");
+    QTest::addColumn<QList<Placement>>("places");
+
+    const QSize s(100, 50);
+    const QRect all(QPoint(0, 0), s);
+    const int grid = PreviewWidget::Grid;
+    const int vertical = PreviewWidget::Vertical;
+    const int horizontal = PreviewWidget::Horizontal;
+    // Image 4 opens the third row at (0, 108); the cell beside it stays white.
+    QTest::newRow("grid example") << QList<QSize>{s, s, s, s, s} << grid << "10" << "4" << "2" << QSize(210, 158)
+                                  << QList<Placement>{{0, {0, 0}, all}, {1, {110, 0}, all}, {2, {0, 54}, all},
+                                                      {3, {110, 54}, all}, {4, {0, 108}, all}};
+    QTest::newRow("grid fewer than columns") << QList<QSize>{s, s} << grid << "7" << "0" << "3" << QSize(207, 50)
+                                             << QList<Placement>{{0, {0, 0}, all}, {1, {107, 0}, all}};
+    QTest::newRow("grid negative spacing") << QList<QSize>{s, s, s, s} << grid << "-5" << "-3" << "2"
+                                           << QSize(200, 100)
+                                           << QList<Placement>{{0, {0, 0}, all}, {1, {100, 0}, all},
+                                                               {2, {0, 50}, all}, {3, {100, 50}, all}};
+    QTest::newRow("grid non-numeric column") << QList<QSize>{s, s, s} << grid << "0" << "2" << "abc"
+                                             << QSize(100, 154)
+                                             << QList<Placement>{{0, {0, 0}, all}, {1, {0, 52}, all},
+                                                                 {2, {0, 104}, all}};
+    // Cells come from the first frame; the larger second frame spills right
+    // (cut by the canvas) and into the cell below it, where a later frame
+    // paints over the spill.
+    QTest::newRow("grid larger second frame")
+        << QList<QSize>{s, QSize(150, 80), s} << grid << "0" << "0" << "2" << QSize(200, 100)
+        << QList<Placement>{{0, {0, 0}, all}, {1, {100, 0}, QRect(0, 0, 150, 80)}, {2, {0, 50}, all}};
+    QTest::newRow("grid spill covered")
+        << QList<QSize>{s, QSize(150, 80), s, s} << grid << "0" << "0" << "2" << QSize(200, 100)
+        << QList<Placement>{{0, {0, 0}, all}, {1, {100, 0}, QRect(0, 0, 150, 80)}, {2, {0, 50}, all},
+                            {3, {100, 50}, all}};
+
+    const QSize hd(640, 360);
+    const QRect hdAll(QPoint(0, 0), hd);
+    QTest::newRow("vertical caption bands") << QList<QSize>{hd, hd, hd} << vertical << "0" << "-300" << "2"
+                                            << QSize(640, 480)
+                                            << QList<Placement>{{0, {0, 0}, hdAll},
+                                                                {1, {0, 360}, QRect(0, 300, 640, 60)},
+                                                                {2, {0, 420}, QRect(0, 300, 640, 60)}};
+    QTest::newRow("vertical positive spacing") << QList<QSize>{hd, hd, hd} << vertical << "25" << "8" << "2"
+                                               << QSize(640, 1096)
+                                               << QList<Placement>{{0, {0, 0}, hdAll}, {1, {0, 368}, hdAll},
+                                                                   {2, {0, 736}, hdAll}};
+    // Each band is cut from the bottom of its own frame; a frame shorter than
+    // the band leaves white above it, a wider one is cut by the canvas.
+    QTest::newRow("vertical other frame sizes")
+        << QList<QSize>{QSize(320, 180), QSize(400, 200), QSize(320, 40)} << vertical << "0" << "-120" << "2"
+        << QSize(320, 300)
+        << QList<Placement>{{0, {0, 0}, QRect(0, 0, 320, 180)}, {1, {0, 180}, QRect(0, 140, 400, 60)},
+                            {2, {0, 260}, QRect(0, 0, 320, 40)}};
+    QTest::newRow("horizontal negative spacing")
+        << QList<QSize>{hd, hd} << horizontal << "-100" << "50" << "2" << QSize(1180, 360)
+        << QList<Placement>{{0, {0, 0}, hdAll}, {1, {640, 0}, QRect(100, 0, 540, 360)}};
+    QTest::newRow("horizontal spacing") << QList<QSize>{hd, hd} << horizontal << "12" << "0" << "2"
+                                        << QSize(1292, 360)
+                                        << QList<Placement>{{0, {0, 0}, hdAll}, {1, {652, 0}, hdAll}};
+    for (int layout : {grid, vertical, horizontal}) {
+        QTest::addRow("single image, layout %d", layout)
+            << QList<QSize>{QSize(123, 77)} << layout << "-40" << "-30" << "4" << QSize(123, 77)
+            << QList<Placement>{{0, {0, 0}, QRect(0, 0, 123, 77)}};
+    }
+}
+
+void TestComposition::layouts()
+{
+    QFETCH(QList<QSize>, sizes);
+    QFETCH(int, layout);
+    QFETCH(QString, x);
+    QFETCH(QString, y);
+    QFETCH(QString, column);
+    QFETCH(QSize, expectedSize);
+    QFETCH(QList<Placement>, places);
+
+    const QPixmap composite = compose(sizes, layout, x, y, column);
     QCOMPARE(composite.size(), expectedSize);
     const QImage image = composite.toImage().convertToFormat(QImage::Format_RGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
+    for (int row = 0; row < image.height(); ++row) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(row));
+        for (int col = 0; col < image.width(); ++col) {
             QRgb expected = kWhite;
-            for (const Placement& p : placements) {
-                const QPoint local = QPoint(x, y) - p.at + p.source.topLeft();
+            for (const Placement& p : places) {
+                const QPoint local = QPoint(col, row) - p.at + p.source.topLeft();
                 if (p.source.contains(local)) {
                     expected = frameColor(p.frame, local.x(), local.y());
                 }
             }
-            if ((line[x] | 0xff000000) != expected) {
+            if ((line[col] | 0xff000000) != expected) {
                 QFAIL(qPrintable(QStringLiteral("pixel (%1,%2) is %3, expected %4")
-                                     .arg(x)
-                                     .arg(y)
-                                     .arg(line[x] & 0xffffff, 6, 16)
+                                     .arg(col)
+                                     .arg(row)
+                                     .arg(line[col] & 0xffffff, 6, 16)
                                      .arg(expected & 0xffffff, 6, 16)));
             }
         }
     }
-}
-
-void TestComposition::gridExample()
-{
-    const QSize s(100, 50);
-    const QPixmap composite = compose({s, s, s, s, s}, PreviewWidget::Grid, "10", "4", "2");
-    QList<Placement> places;
-    for (int i = 0; i < 5; ++i) {
-        places.append({i, QPoint((i % 2) * 110, (i / 2) * 54), QRect(QPoint(0, 0), s)});
-    }
-    // Image 4 opens the third row at (0, 108); the cell beside it stays white.
-    QCOMPARE(places.last().at, QPoint(0, 108));
-    verify(composite, QSize(210, 158), places);
-}
-
-void TestComposition::gridFewerThanColumns()
-{
-    const QSize s(100, 50);
-    const QPixmap composite = compose({s, s}, PreviewWidget::Grid, "7", "0", "3");
-    verify(composite, QSize(207, 50),
-           {{0, QPoint(0, 0), QRect(QPoint(0, 0), s)}, {1, QPoint(107, 0), QRect(QPoint(0, 0), s)}});
-}
-
-void TestComposition::gridNegativeSpacing()
-{
-    const QSize s(100, 50);
-    const QPixmap composite = compose({s, s, s, s}, PreviewWidget::Grid, "-5", "-3", "2");
-    QList<Placement> places;
-    for (int i = 0; i < 4; ++i) {
-        places.append({i, QPoint((i % 2) * 100, (i / 2) * 50), QRect(QPoint(0, 0), s)});
-    }
-    verify(composite, QSize(200, 100), places);
-}
-
-void TestComposition::gridNonNumericColumn()
-{
-    const QSize s(60, 40);
-    const QPixmap composite = compose({s, s, s}, PreviewWidget::Grid, "0", "2", "abc");
-    QCOMPARE(m_preview->propertyValue(PropertyItem::Column), 0);
-    verify(composite, QSize(60, 124),
-           {{0, QPoint(0, 0), QRect(0, 0, 60, 40)},
-            {1, QPoint(0, 42), QRect(0, 0, 60, 40)},
-            {2, QPoint(0, 84), QRect(0, 0, 60, 40)}});
-}
-
-void TestComposition::gridLargerSecondFrame()
-{
-    // Cells come from the first frame; the larger second frame spills right
-    // (cut by the canvas) and into the empty cell below it.
-    const QPixmap composite
-        = compose({QSize(100, 50), QSize(150, 80), QSize(100, 50)}, PreviewWidget::Grid, "0", "0", "2");
-    verify(composite, QSize(200, 100),
-           {{0, QPoint(0, 0), QRect(0, 0, 100, 50)},
-            {1, QPoint(100, 0), QRect(0, 0, 150, 80)},
-            {2, QPoint(0, 50), QRect(0, 0, 100, 50)}});
-
-    // A later frame paints over the spill of an earlier one.
-    cleanup();
-    const QPixmap covered = compose({QSize(100, 50), QSize(150, 80), QSize(100, 50), QSize(100, 50)},
-                                    PreviewWidget::Grid, "0", "0", "2");
-    const QImage image = covered.toImage();
-    QCOMPARE(image.pixel(150, 60) | 0xff000000, frameColor(3, 50, 10));
-    QCOMPARE(image.pixel(150, 40) | 0xff000000, frameColor(1, 50, 40));
-}
-
-void TestComposition::verticalCaptionBands()
-{
-    const QSize s(640, 360);
-    const QPixmap composite = compose({s, s, s}, PreviewWidget::Vertical, "0", "-300", "2");
-    verify(composite, QSize(640, 480),
-           {{0, QPoint(0, 0), QRect(0, 0, 640, 360)},
-            {1, QPoint(0, 360), QRect(0, 300, 640, 60)},
-            {2, QPoint(0, 420), QRect(0, 300, 640, 60)}});
-}
-
-void TestComposition::verticalPositiveSpacing()
-{
-    const QSize s(640, 360);
-    const QPixmap composite = compose({s, s, s}, PreviewWidget::Vertical, "25", "8", "2");
-    verify(composite, QSize(640, 1096),
-           {{0, QPoint(0, 0), QRect(0, 0, 640, 360)},
-            {1, QPoint(0, 368), QRect(0, 0, 640, 360)},
-            {2, QPoint(0, 736), QRect(0, 0, 640, 360)}});
-}
-
-void TestComposition::verticalOtherFrameSizes()
-{
-    // Each band is cut from the bottom of its own frame; a frame shorter than
-    // the band leaves white above it, a wider one is cut by the canvas.
-    const QPixmap composite = compose({QSize(320, 180), QSize(400, 200), QSize(320, 40)},
-                                      PreviewWidget::Vertical, "0", "-120", "2");
-    verify(composite, QSize(320, 300),
-           {{0, QPoint(0, 0), QRect(0, 0, 320, 180)},
-            {1, QPoint(0, 180), QRect(0, 140, 400, 60)},
-            {2, QPoint(0, 260), QRect(0, 0, 320, 40)}});
-}
-
-void TestComposition::horizontalNegativeSpacing()
-{
-    const QSize s(640, 360);
-    const QPixmap composite = compose({s, s}, PreviewWidget::Horizontal, "-100", "50", "2");
-    verify(composite, QSize(1180, 360),
-           {{0, QPoint(0, 0), QRect(0, 0, 640, 360)}, {1, QPoint(640, 0), QRect(100, 0, 540, 360)}});
-
-    cleanup();
-    const QPixmap spaced = compose({s, s}, PreviewWidget::Horizontal, "12", "0", "2");
-    verify(spaced, QSize(1292, 360),
-           {{0, QPoint(0, 0), QRect(0, 0, 640, 360)}, {1, QPoint(652, 0), QRect(0, 0, 640, 360)}});
-}
-
-void TestComposition::singleImage_data()
-{
-    QTest::addColumn<int>("layout");
-    QTest::newRow("grid") << int(PreviewWidget::Grid);
-    QTest::newRow("vertical") << int(PreviewWidget::Vertical);
-    QTest::newRow("horizontal") << int(PreviewWidget::Horizontal);
-}
-
-void TestComposition::singleImage()
-{
-    QFETCH(int, layout);
-    const QPixmap composite = compose({QSize(123, 77)}, layout, "-40", "-30", "4");
-    verify(composite, QSize(123, 77), {{0, QPoint(0, 0), QRect(0, 0, 123, 77)}});
 }
 
 void TestComposition::emptySelectionKeepsComposite()

@@ -45,29 +45,13 @@ private slots:
     {
         GlobalManager* bus = GlobalManager::instance();
         QSignalSpy spy(bus, &GlobalManager::globalEvent);
-        AppConfig::CaptureData data;
-        data.pixmap = QPixmap(8, 4);
-        data.time = 2.5;
-        data.frame = 62;
-        bus->emitEvent(AppConfig::CAPTURE_IMAGE, QVariant::fromValue(data));
+        bus->emitEvent(AppConfig::CAPTURE_IMAGE,
+                       QVariant::fromValue(TestSupport::capture(QPixmap(8, 4), 2.5, 62)));
         QCOMPARE(spy.count(), 1);
         const auto received = spy.at(0).at(1).value<AppConfig::CaptureData>();
         QCOMPARE(received.pixmap.size(), QSize(8, 4));
         QCOMPARE(received.time, 2.5);
         QCOMPARE(received.frame, 62);
-    }
-
-    void sharedNamesAreExact()
-    {
-        // Irregular spellings are part of the interface.
-        QCOMPARE(AppConfig::REGISTER_COMPLETE, QStringLiteral("regiseter_complete"));
-        QCOMPARE(AppConfig::REGISTER_ERROR, QStringLiteral("regiseter_error"));
-        QCOMPARE(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT, QStringLiteral("show_guide_regisetr_by_export"));
-        QCOMPARE(AppConfig::MPV_ESTIMATED_FRAME_NUMBER, QStringLiteral("estimated-frame-number"));
-        QVERIFY(QMetaType::type("AppConfig::CaptureData") != QMetaType::UnknownType);
-        QVERIFY(QMetaType::type("CaptionInfo *") != QMetaType::UnknownType);
-        QVERIFY(QMetaType::type("CaptionEdit") != QMetaType::UnknownType);
-        QVERIFY(QMetaType::type("QList<QString>&") != QMetaType::UnknownType);
     }
 };
 

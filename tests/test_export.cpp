@@ -45,29 +45,9 @@ public slots:
     void open(const QUrl& url) { urls.append(url); }
 };
 
-namespace {
-QPixmap solidFrame(const QColor& color, int width = 320, int height = 180)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(color);
-    return QPixmap::fromImage(std::move(image));
-}
-
-AppConfig::CaptureData capture(const QPixmap& pixmap, int frame)
-{
-    AppConfig::CaptureData data;
-    data.pixmap = pixmap;
-    data.time = frame / 25.0;
-    data.frame = frame;
-    return data;
-}
-
-QByteArray fileBytes(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-} // namespace
+using TestSupport::capture;
+using TestSupport::readFile;
+using TestSupport::solidFrame;
 
 class TestExport : public QObject
 {
@@ -171,8 +151,8 @@ QStringList TestExport::waitFinished(QSignalSpy& spy, QStringList* errors)
 
 void TestExport::compositePngAndSecondExport()
 {
-    m_strip->addImage(capture(solidFrame(Qt::red), 1));
-    m_strip->addImage(capture(solidFrame(Qt::blue), 2));
+    m_strip->addImage(capture(solidFrame(Qt::red), 1 / 25.0, 1));
+    m_strip->addImage(capture(solidFrame(Qt::blue), 2 / 25.0, 2));
     m_preview->setRadioType(PreviewWidget::Vertical);
     m_preview->propertyItem(PropertyItem::YSpace)->setText(QStringLiteral("-100"));
     m_preview->propertyItem(PropertyItem::Scale)->setText(QStringLiteral("100"));
@@ -198,11 +178,11 @@ void TestExport::compositePngAndSecondExport()
     QTRY_COMPARE(m_fileManager.calls.size(), 1);
     QCOMPARE(m_fileManager.calls.first(), QStringList{QUrl::fromLocalFile(expected).toString(QUrl::FullyEncoded)});
 
-    const QByteArray before = fileBytes(expected);
+    const QByteArray before = readFile(expected);
     m_preview->exportButtonClickHandle();
     const QStringList second = waitFinished(spy);
     QCOMPARE(second, QStringList{m_out + QStringLiteral("/holiday_1(1).png")});
-    QCOMPARE(fileBytes(expected), before);
+    QCOMPARE(readFile(expected), before);
     QCOMPARE(QImageReader(second.first()).size(), QSize(320, 260));
 }
 
@@ -222,9 +202,9 @@ void TestExport::singleFramesInFormat()
     QFETCH(QByteArray, readerFormat);
     QFETCH(QString, suffix);
     GlobalManager::instance()->saveSettings(AppConfig::FILE_EXTENSION, format);
-    m_strip->addImage(capture(solidFrame(Qt::red, 640, 360), 1));
-    m_strip->addImage(capture(solidFrame(Qt::green, 320, 200), 2));
-    m_strip->addImage(capture(solidFrame(Qt::blue, 100, 100), 3));
+    m_strip->addImage(capture(solidFrame(Qt::red, 640, 360), 1 / 25.0, 1));
+    m_strip->addImage(capture(solidFrame(Qt::green, 320, 200), 2 / 25.0, 2));
+    m_strip->addImage(capture(solidFrame(Qt::blue, 100, 100), 3 / 25.0, 3));
     m_strip->items().at(1)->checkBox()->click(); // out of the selection
 
     QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
@@ -247,7 +227,7 @@ void TestExport::singleFramesInFormat()
 
 void TestExport::scaleHalvesWidth()
 {
-    m_strip->addImage(capture(solidFrame(Qt::red, 1000, 400), 1));
+    m_strip->addImage(capture(solidFrame(Qt::red, 1000, 400), 1 / 25.0, 1));
     m_preview->propertyItem(PropertyItem::Scale)->setText(QStringLiteral("50"));
     m_preview->initScaleProperty();
     QCOMPARE(m_preview->propertyItem(PropertyItem::Width)->getText(), QStringLiteral("500"));
@@ -272,7 +252,7 @@ void TestExport::unregisteredWatermarkAndGuideOnce()
     GlobalManager* manager = GlobalManager::instance();
     manager->setRegister(false);
     manager->saveInAppSettings(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT, false);
-    m_strip->addImage(capture(solidFrame(QColor(20, 20, 20), 640, 360), 1));
+    m_strip->addImage(capture(solidFrame(QColor(20, 20, 20), 640, 360), 1 / 25.0, 1));
     m_preview->showImage();
 
     QSignalSpy guide(m_preview, &PreviewWidget::showRegisterGuide);
@@ -308,7 +288,7 @@ void TestExport::unusableOutputFolderFallsBack()
     QVERIFY(TestSupport::writeFile(blocker, "not a folder"));
     GlobalManager* manager = GlobalManager::instance();
     manager->saveSettings(AppConfig::FILE_SAVE_PATH, blocker + QStringLiteral("/sub"));
-    m_strip->addImage(capture(solidFrame(Qt::red), 1));
+    m_strip->addImage(capture(solidFrame(Qt::red), 1 / 25.0, 1));
 
     QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
     m_strip->exportSelectedHandle(QString());
@@ -340,15 +320,15 @@ void TestExport::nothingLostWhenNoFolderTakesFiles()
     QCOMPARE(kept, (QStringList{temp + QStringLiteral("/holiday_1.png"), temp + QStringLiteral("/holiday_2.png")}));
     QCOMPARE(errors.size(), 2);
     QVERIFY2(errors.first().contains(QStringLiteral("holiday_1.png")), qPrintable(errors.first()));
-    QCOMPARE(fileBytes(temp + QStringLiteral("/holiday_2.png")), QByteArray("two"));
+    QCOMPARE(readFile(temp + QStringLiteral("/holiday_2.png")), QByteArray("two"));
 }
 
 void TestExport::tooTallForWebpIsReported()
 {
     GlobalManager::instance()->saveSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_WEBP);
-    m_strip->addImage(capture(solidFrame(Qt::red), 1));
-    m_strip->addImage(capture(solidFrame(Qt::green, 320, 17000), 2));
-    m_strip->addImage(capture(solidFrame(Qt::blue), 3));
+    m_strip->addImage(capture(solidFrame(Qt::red), 1 / 25.0, 1));
+    m_strip->addImage(capture(solidFrame(Qt::green, 320, 17000), 2 / 25.0, 2));
+    m_strip->addImage(capture(solidFrame(Qt::blue), 3 / 25.0, 3));
 
     QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
     m_strip->exportSelectedHandle(QString());

@@ -11,18 +11,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSignalSpy>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
 
-namespace {
-int freePort()
-{
-    QTcpServer probe;
-    probe.listen(QHostAddress::LocalHost);
-    return probe.serverPort();
-}
-} // namespace
+using TestSupport::freePort;
 
 class TestHttpManager : public QObject
 {
@@ -44,13 +36,7 @@ private slots:
         TestSupport::isolate();
         m_work = TestSupport::makeWorkDir(QStringLiteral("httpmanager"));
         m_speech = m_work + QStringLiteral("/speech.mp3");
-        QCOMPARE(TestSupport::ffmpeg({QStringLiteral("-i"),
-                                      QStringLiteral("/usr/share/pocketsphinx/test/data/librivox/"
-                                                     "sense_and_sensibility_01_austen_64kb-0870.wav"),
-                                      QStringLiteral("-vn"), QStringLiteral("-ar"), QStringLiteral("16000"),
-                                      QStringLiteral("-ac"), QStringLiteral("1"), QStringLiteral("-format"),
-                                      QStringLiteral("wav"), m_speech}),
-                 0);
+        QVERIFY(TestSupport::makeSpeechMp3({TestSupport::librivox("0870")}, m_speech));
         QVERIFY(m_server.start());
         GlobalManager::instance(); // connects the client's replies to the bus
     }
@@ -68,12 +54,7 @@ private slots:
         QVERIFY(errors.isEmpty());
         QVERIFY(!HttpManager::instance()->isUploading());
 
-        QByteArray body;
-        for (const QList<QVariant>& event : events) {
-            if (event.at(0).toString() == AppConfig::TASK_ID) {
-                body = event.at(1).toByteArray();
-            }
-        }
+        const QByteArray body = TestSupport::eventValues(events, AppConfig::TASK_ID).value(0).toByteArray();
         const QJsonObject result = QJsonDocument::fromJson(body).object();
         QCOMPARE(result.value("state").toString(), QStringLiteral("success"));
         QVERIFY(!result.value("utterances").toArray().isEmpty());

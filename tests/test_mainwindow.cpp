@@ -22,27 +22,7 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-namespace {
-// Mean absolute difference per channel over a rectangle of two RGB images.
-double meanDifference(const QImage& a, const QImage& b, const QRect& area)
-{
-    const QImage x = a.convertToFormat(QImage::Format_RGB32);
-    const QImage y = b.convertToFormat(QImage::Format_RGB32);
-    if (x.size() != y.size()) {
-        return 1e9;
-    }
-    qint64 sum = 0;
-    for (int row = area.top(); row <= area.bottom(); ++row) {
-        const QRgb* p = reinterpret_cast<const QRgb*>(x.constScanLine(row));
-        const QRgb* q = reinterpret_cast<const QRgb*>(y.constScanLine(row));
-        for (int col = area.left(); col <= area.right(); ++col) {
-            sum += qAbs(qRed(p[col]) - qRed(q[col])) + qAbs(qGreen(p[col]) - qGreen(q[col]))
-                   + qAbs(qBlue(p[col]) - qBlue(q[col]));
-        }
-    }
-    return double(sum) / (3.0 * area.width() * area.height());
-}
-} // namespace
+using TestSupport::meanDifference;
 
 // The real main window end to end: video and subtitles in, stitched picture out.
 class TestMainWindow : public QObject

@@ -92,10 +92,7 @@ void TestPreviewWidget::sizeLabelZoomAndScaleFields()
             preview.initScaleProperty();
         }
     });
-    QImage frame(1000, 400, QImage::Format_RGB32);
-    frame.fill(Qt::darkGreen);
-    AppConfig::CaptureData data;
-    data.pixmap = QPixmap::fromImage(frame);
+    const AppConfig::CaptureData data = TestSupport::capture(TestSupport::solidFrame(Qt::darkGreen, 1000, 400), 0, 0);
     preview.setRadioType(PreviewWidget::Vertical);
     strip.addImage(data);
     strip.addImage(data);

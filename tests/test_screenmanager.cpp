@@ -82,16 +82,6 @@ private slots:
         QVERIFY(!ScreenManager::versionAtLeast11(QStringLiteral("10.15")));
     }
 
-    void helpers()
-    {
-        QVERIFY(ScreenManager::isNumber('0'));
-        QVERIFY(ScreenManager::isNumber('9'));
-        QVERIFY(!ScreenManager::isNumber('a'));
-        QVERIFY(!ScreenManager::isNumber('.'));
-        QCOMPARE(ScreenManager::findPxStart(QStringLiteral("w: 120px"), 6), 3);
-        QCOMPARE(ScreenManager::findPxStart(QStringLiteral("w: px"), 3), 3);
-    }
-
     void widgetsFollowANewScreen()
     {
         ScreenManager* screens = ScreenManager::instance();

@@ -12,16 +12,12 @@
 
 #include <ass/ass.h>
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSignalSpy>
-#include <QTcpServer>
 #include <QTest>
-
-#include <sys/stat.h>
 
 namespace {
 
@@ -30,17 +26,9 @@ struct RefWord {
     int startMs;
     int endMs;
 };
-
-bool hasEvent(const QSignalSpy& spy, const QString& name)
-{
-    for (const QList<QVariant>& event : spy) {
-        if (event.at(0).toString() == name) {
-            return true;
-        }
-    }
-    return false;
-}
 } // namespace
+
+using TestSupport::hasEvent;
 
 class TestSpeechEndToEnd : public QObject
 {
@@ -87,11 +75,11 @@ private slots:
     {
         TestSupport::isolate();
         m_work = TestSupport::makeWorkDir(QStringLiteral("speech-e2e"));
-        const QString data = QStringLiteral("/usr/share/pocketsphinx/test/data/librivox/sense_and_sensibility_01_austen_64kb-%1.wav");
+        using TestSupport::librivox;
         const QString speech = m_work + QStringLiteral("/speech.wav");
         // Three read sentences with pauses between them.
-        QCOMPARE(TestSupport::ffmpeg({"-i", data.arg("0870"), "-f", "lavfi", "-t", "1.5", "-i",
-                                      "anullsrc=r=16000:cl=mono", "-i", data.arg("0890"), "-i", data.arg("0920"),
+        QCOMPARE(TestSupport::ffmpeg({"-i", librivox("0870"), "-f", "lavfi", "-t", "1.5", "-i",
+                                      "anullsrc=r=16000:cl=mono", "-i", librivox("0890"), "-i", librivox("0920"),
                                       "-filter_complex", "[0:a][1:a][2:a][3:a]concat=n=4:v=0:a=1", speech}),
                  0);
         m_video = m_work + QStringLiteral("/read speech.mp4");
@@ -105,10 +93,7 @@ private slots:
         global->setCurrentFile(QFileInfo(m_video));
         CaptionManager::instance()->setCurrentLangItem(7);
         QCOMPARE(CaptionManager::instance()->getCurrentLangItem()->code, QStringLiteral("en-US"));
-        QTcpServer portProbe;
-        portProbe.listen(QHostAddress::LocalHost);
-        const QString url = QStringLiteral("http://127.0.0.1:%1").arg(portProbe.serverPort());
-        portProbe.close();
+        const QString url = QStringLiteral("http://127.0.0.1:%1").arg(TestSupport::freePort());
         SpeechService::instance()->setManagedBaseUrl(url);
         SpeechService::instance()->setProgram(SpeechdProcess::program());
         global->saveSettings(AppConfig::SPEECH_SERVER_URL, url);
@@ -126,11 +111,7 @@ private slots:
         events.clear();
         HttpManager::instance()->loadCaptions(audio, CaptionManager::instance()->getCurrentLangItem()->code);
         QTRY_VERIFY_WITH_TIMEOUT(hasEvent(events, AppConfig::TASK_ID), 120000);
-        for (const QList<QVariant>& event : events) {
-            if (event.at(0).toString() == AppConfig::TASK_ID) {
-                m_reply = event.at(1).toByteArray();
-            }
-        }
+        m_reply = TestSupport::eventValues(events, AppConfig::TASK_ID).last().toByteArray();
 
         // The oracle decodes the very same MP3.
         const QString wav = m_work + QStringLiteral("/reference.wav");
@@ -192,29 +173,6 @@ private slots:
         }
         ass_free_track(track);
         ass_library_done(library);
-    }
-
-    void cancelledExtractionStartsNoUpload()
-    {
-        GlobalManager* global = GlobalManager::instance();
-        // Nothing runs: returns at once and leaves the flag alone.
-        QElapsedTimer clock;
-        clock.start();
-        global->stopConvert();
-        QVERIFY(clock.elapsed() < 100);
-        QVERIFY(!global->isStopConvert());
-
-        // ffmpeg waits on a pipe nobody writes to until it is stopped.
-        const QString fifo = m_work + QStringLiteral("/never.mp4");
-        QCOMPARE(mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
-        QSignalSpy events(global, &GlobalManager::globalEvent);
-        global->videoToAudio(fifo);
-        QTRY_VERIFY_WITH_TIMEOUT(hasEvent(events, AppConfig::VIDEO_TO_AUDIO_START), 10000);
-        global->stopConvert();
-        QVERIFY(global->isStopConvert());
-        QTRY_VERIFY_WITH_TIMEOUT(!global->audioThread()->isRunning(), 10000);
-        QTest::qWait(300);
-        QVERIFY(!hasEvent(events, AppConfig::VIDEO_TO_AUDIO_STOP));
     }
 
     void missingFfmpegStillEndsTheExtraction()

@@ -1,4 +1,5 @@
 // The local speech service (glimmer-speechd) over real HTTP on 127.0.0.1.
+#include "localhttpserver.h"
 #include "speechdprocess.h"
 #include "testsupport.h"
 
@@ -13,14 +14,11 @@
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QRandomGenerator>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
 #include <QTimer>
 
 namespace {
-
-const QString kLibrivox = QStringLiteral("/usr/share/pocketsphinx/test/data/librivox/sense_and_sensibility_01_austen_64kb-%1.wav");
 
 struct Answer {
     int status = 0;
@@ -49,68 +47,6 @@ Answer finish(QNetworkReply* reply, int timeoutMs = 120000)
     reply->deleteLater();
     return answer;
 }
-
-// Speech as the app uploads it: an MP3 written with the extraction's own arguments.
-bool makeAppAudio(const QStringList& inputs, const QString& output)
-{
-    QStringList args;
-    QString filter;
-    for (int i = 0; i < inputs.size(); ++i) {
-        args << QStringLiteral("-i") << inputs.at(i);
-        filter += QStringLiteral("[%1:a]").arg(i);
-    }
-    filter += QStringLiteral("concat=n=%1:v=0:a=1").arg(inputs.size());
-    args << QStringLiteral("-filter_complex") << filter << QStringLiteral("-vn") << QStringLiteral("-ar")
-         << QStringLiteral("16000") << QStringLiteral("-ac") << QStringLiteral("1") << QStringLiteral("-format")
-         << QStringLiteral("wav") << output;
-    return TestSupport::ffmpeg(args) == 0;
-}
-
-// A minimal stand-in for an OpenAI-style transcription server.
-class FakeTranscriptionServer : public QObject
-{
-public:
-    int status = 200;
-    QByteArray reply;
-    QByteArray lastRequest;
-
-    bool listen()
-    {
-        connect(&m_server, &QTcpServer::newConnection, this, [this]() {
-            while (QTcpSocket* socket = m_server.nextPendingConnection()) {
-                connect(socket, &QTcpSocket::readyRead, this, [this, socket]() { read(socket); });
-                connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-            }
-        });
-        return m_server.listen(QHostAddress::LocalHost);
-    }
-    int port() const { return m_server.serverPort(); }
-
-private:
-    void read(QTcpSocket* socket)
-    {
-        QByteArray& buffer = m_buffers[socket];
-        buffer += socket->readAll();
-        const int headerEnd = buffer.indexOf("\r\n\r\n");
-        if (headerEnd < 0) {
-            return;
-        }
-        const QByteArray head = buffer.left(headerEnd).toLower();
-        const int at = head.indexOf("content-length:");
-        const int length = at < 0 ? 0 : head.mid(at + 15, head.indexOf("\r\n", at) - at - 15).trimmed().toInt();
-        if (buffer.size() < headerEnd + 4 + length) {
-            return;
-        }
-        lastRequest = buffer;
-        m_buffers.remove(socket);
-        socket->write("HTTP/1.1 " + QByteArray::number(status) + " X\r\nContent-Type: application/json\r\nContent-Length: "
-                      + QByteArray::number(reply.size()) + "\r\nConnection: close\r\n\r\n" + reply);
-        socket->disconnectFromHost();
-    }
-
-    QTcpServer m_server;
-    QHash<QTcpSocket*, QByteArray> m_buffers;
-};
 
 } // namespace
 
@@ -214,19 +150,11 @@ private slots:
         m_work = TestSupport::makeWorkDir(QStringLiteral("speechd"));
         m_speech = m_work + QStringLiteral("/speech.mp3");
         m_longSpeech = m_work + QStringLiteral("/long.mp3");
-        QVERIFY(makeAppAudio({kLibrivox.arg(QStringLiteral("0870"))}, m_speech));
-        QVERIFY(makeAppAudio({kLibrivox.arg(QStringLiteral("0870")), kLibrivox.arg(QStringLiteral("0890")),
-                              kLibrivox.arg(QStringLiteral("0920")), kLibrivox.arg(QStringLiteral("0930"))},
-                             m_longSpeech));
+        using TestSupport::librivox;
+        QVERIFY(TestSupport::makeSpeechMp3({librivox("0870")}, m_speech));
+        QVERIFY(TestSupport::makeSpeechMp3({librivox("0870"), librivox("0890"), librivox("0920"), librivox("0930")},
+                                           m_longSpeech));
         QVERIFY(m_server.start({QStringLiteral("--jobs"), QStringLiteral("2")}));
-    }
-
-    void healthAnswersJson()
-    {
-        const Answer answer = finish(m_network.get(QNetworkRequest(QUrl(m_server.url() + "/api/speech/health"))));
-        QCOMPARE(answer.status, 200);
-        QCOMPARE(answer.json.value("state").toString(), QStringLiteral("ok"));
-        QCOMPARE(answer.json.value("backend").toString(), QStringLiteral("pocketsphinx"));
     }
 
     void recognisesReadSpeechIntoCaptions()
@@ -420,11 +348,13 @@ private slots:
 
     void forwardsToTranscriptionServer()
     {
-        FakeTranscriptionServer fake;
-        QVERIFY(fake.listen());
-        fake.reply = R"({"task":"transcribe","language":"french","duration":7.1,"text":"Bonjour. Au revoir.",
+        // A stand-in for an OpenAI-style transcription server.
+        LocalHttpServer::Response reply;
+        reply.body = R"({"task":"transcribe","language":"french","duration":7.1,"text":"Bonjour. Au revoir.",
             "segments":[{"id":0,"start":0.0,"end":2.5,"text":" Bonjour tout le monde."},
                         {"id":1,"start":2.5,"end":4.25,"text":" Au revoir."}]})";
+        LocalHttpServer fake([&reply](const LocalHttpServer::Request&) { return reply; });
+        QVERIFY(fake.listen());
         SpeechdProcess service;
         QVERIFY(service.start({QStringLiteral("--openai-url"), QStringLiteral("http://127.0.0.1:%1").arg(fake.port()),
                                QStringLiteral("--openai-model"), QStringLiteral("tiny-test")}));
@@ -436,8 +366,10 @@ private slots:
         QCOMPARE(utterances.at(1).toObject().value("start_time").toInt(), 2500);
         QCOMPARE(utterances.at(1).toObject().value("end_time").toInt(), 4250);
 
-        const QByteArray request = fake.lastRequest;
-        QVERIFY(request.startsWith("POST /v1/audio/transcriptions "));
+        QCOMPARE(fake.requests().size(), 1);
+        QCOMPARE(fake.requests().first().method, QByteArray("POST"));
+        QCOMPARE(fake.requests().first().path, QStringLiteral("/v1/audio/transcriptions"));
+        const QByteArray request = fake.requests().first().body;
         QVERIFY(request.contains("name=\"response_format\"\r\n\r\nverbose_json"));
         QVERIFY(request.contains("name=\"language\"\r\n\r\nfr"));
         QVERIFY(request.contains("name=\"model\"\r\n\r\ntiny-test"));
@@ -447,8 +379,8 @@ private slots:
         QCOMPARE(request.mid(riff + 8, 8), QByteArray("WAVEfmt "));
         QCOMPARE(qFromLittleEndian<quint32>(request.constData() + riff + 24), 16000u);
 
-        fake.status = 500;
-        fake.reply = R"({"error":{"message":"model tiny-test is not loaded"}})";
+        reply.status = 500;
+        reply.body = R"({"error":{"message":"model tiny-test is not loaded"}})";
         const Answer refused = recognise(service.url(), m_speech, QStringLiteral("fr-FR"));
         QCOMPARE(refused.json.value("state").toString(), QStringLiteral("failed"));
         QVERIFY(refused.json.value("message").toString().contains(QStringLiteral("model tiny-test is not loaded")));

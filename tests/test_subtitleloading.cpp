@@ -28,8 +28,7 @@ QByteArray assFile(const QByteArray& events)
 
 QString readText(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(TestSupport::readFile(path));
 }
 
 QStringList captionTexts()
@@ -78,7 +77,6 @@ private slots:
     void noPathAtAll()
     {
         QCOMPARE(m->loadCaptionFile(QString()), -1);
-        QVERIFY(m->getCaptions().isEmpty());
         QVERIFY(!m->lastError().isEmpty());
     }
 
@@ -179,30 +177,14 @@ private slots:
         QCOMPARE(captionTexts(), QStringList({kChinese, kChinese2}));
     }
 
-    void fileWithoutEvents()
+    void filesWithoutCaptions_data()
     {
-        const QString path = m_dir + QStringLiteral("/noevents.ass");
-        QVERIFY(TestSupport::writeFile(path, "[Script Info]\n\n" + kStyleSection
-                                                 + "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,orphan\n"));
-        QCOMPARE(m->loadCaptionFile(path), 0);
-        QVERIFY(m->getCaptions().isEmpty());
-        QCOMPARE(m->getStyles().size(), 1);
-        QCOMPARE(m->getFileLines().size(), 6);
-        QVERIFY(m->lastError().contains(QStringLiteral("noevents.ass")));
-    }
-
-    void emptyFile()
-    {
-        const QString path = m_dir + QStringLiteral("/empty.ass");
-        QVERIFY(TestSupport::writeFile(path, QByteArray()));
-        QCOMPARE(m->loadCaptionFile(path), 0);
-        QVERIFY(m->getCaptions().isEmpty());
-        QVERIFY(m->getFileLines().isEmpty());
-        QVERIFY(!m->lastError().isEmpty());
-    }
-
-    void binaryFile()
-    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::newRow("no [Events]") << "noevents.ass"
+                                     << "[Script Info]\n\n" + kStyleSection
+                                            + "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,orphan\n";
+        QTest::newRow("empty") << "empty.ass" << QByteArray();
         QByteArray junk(2 * 1024 * 1024, '\0');
         QRandomGenerator generator(1234);
         for (int i = 0; i < junk.size(); i += 2) {
@@ -210,11 +192,19 @@ private slots:
         }
         // A dialogue-looking fragment buried in junk, without any [Events] line.
         junk.insert(1000, "\nDialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,junk\n");
-        const QString path = m_dir + QStringLiteral("/video.ass");
-        QVERIFY(TestSupport::writeFile(path, junk));
+        QTest::newRow("binary") << "video.ass" << junk;
+    }
+
+    void filesWithoutCaptions()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, bytes);
+        const QString path = m_dir + QLatin1Char('/') + name;
+        QVERIFY(TestSupport::writeFile(path, bytes));
         QCOMPARE(m->loadCaptionFile(path), 0);
         QVERIFY(m->getCaptions().isEmpty());
-        QVERIFY(!m->lastError().isEmpty());
+        // The user is told which file gave nothing.
+        QVERIFY2(m->lastError().contains(name), qPrintable(m->lastError()));
     }
 
     void pathsThatAreNotFiles()

@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTcpServer>
 #include <QtGlobal>
 
 #include <clocale>
@@ -117,6 +118,113 @@ bool writeFile(const QString& path, const QByteArray& bytes)
         return false;
     }
     return file.write(bytes) == bytes.size();
+}
+
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QPixmap solidFrame(const QColor& color, int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(color);
+    return QPixmap::fromImage(std::move(image));
+}
+
+AppConfig::CaptureData capture(const QPixmap& pixmap, double time, int frame)
+{
+    AppConfig::CaptureData data;
+    data.pixmap = pixmap;
+    data.time = time;
+    data.frame = frame;
+    return data;
+}
+
+static int channelDifference(QRgb p, QRgb q)
+{
+    return qAbs(qRed(p) - qRed(q)) + qAbs(qGreen(p) - qGreen(q)) + qAbs(qBlue(p) - qBlue(q));
+}
+
+double meanDifference(const QImage& a, const QImage& b, const QRect& area)
+{
+    const QImage x = a.convertToFormat(QImage::Format_RGB32);
+    const QImage y = b.convertToFormat(QImage::Format_RGB32);
+    const QRect r = area.isNull() ? x.rect() : area;
+    if (x.size() != y.size() || r.isEmpty()) {
+        return 1e9;
+    }
+    qint64 sum = 0;
+    for (int row = r.top(); row <= r.bottom(); ++row) {
+        const auto* p = reinterpret_cast<const QRgb*>(x.constScanLine(row));
+        const auto* q = reinterpret_cast<const QRgb*>(y.constScanLine(row));
+        for (int col = r.left(); col <= r.right(); ++col) {
+            sum += channelDifference(p[col], q[col]);
+        }
+    }
+    return double(sum) / (3.0 * r.width() * r.height());
+}
+
+QRect changedBox(const QImage& a, const QImage& b, int threshold)
+{
+    const QImage x = a.convertToFormat(QImage::Format_RGB32);
+    const QImage y = b.convertToFormat(QImage::Format_RGB32);
+    QRect box;
+    for (int row = 0; row < qMin(x.height(), y.height()); ++row) {
+        const auto* p = reinterpret_cast<const QRgb*>(x.constScanLine(row));
+        const auto* q = reinterpret_cast<const QRgb*>(y.constScanLine(row));
+        for (int col = 0; col < qMin(x.width(), y.width()); ++col) {
+            if (channelDifference(p[col], q[col]) > threshold) {
+                box |= QRect(col, row, 1, 1);
+            }
+        }
+    }
+    return box;
+}
+
+QList<QVariant> eventValues(const QSignalSpy& spy, const QString& name)
+{
+    QList<QVariant> values;
+    for (const QList<QVariant>& call : spy) {
+        if (call.at(0).toString() == name) {
+            values.append(call.at(1));
+        }
+    }
+    return values;
+}
+
+bool hasEvent(const QSignalSpy& spy, const QString& name)
+{
+    return !eventValues(spy, name).isEmpty();
+}
+
+quint16 freePort()
+{
+    QTcpServer probe;
+    probe.listen(QHostAddress::LocalHost, 0);
+    return probe.serverPort();
+}
+
+QString librivox(const QString& part)
+{
+    return QStringLiteral("/usr/share/pocketsphinx/test/data/librivox/sense_and_sensibility_01_austen_64kb-%1.wav")
+        .arg(part);
+}
+
+bool makeSpeechMp3(const QStringList& wavs, const QString& output)
+{
+    QStringList args;
+    QString filter;
+    for (int i = 0; i < wavs.size(); ++i) {
+        args << QStringLiteral("-i") << wavs.at(i);
+        filter += QStringLiteral("[%1:a]").arg(i);
+    }
+    filter += QStringLiteral("concat=n=%1:v=0:a=1").arg(wavs.size());
+    args << QStringLiteral("-filter_complex") << filter << QStringLiteral("-vn") << QStringLiteral("-ar")
+         << QStringLiteral("16000") << QStringLiteral("-ac") << QStringLiteral("1") << QStringLiteral("-format")
+         << QStringLiteral("wav") << output;
+    return ffmpeg(args) == 0;
 }
 
 } // namespace TestSupport

@@ -1,8 +1,14 @@
 #ifndef TESTSUPPORT_H
 #define TESTSUPPORT_H
 
+#include "appconfig.h"
+
 #include <QByteArray>
+#include <QImage>
 #include <QList>
+#include <QPixmap>
+#include <QRect>
+#include <QSignalSpy>
 #include <QString>
 #include <QStringList>
 
@@ -35,6 +41,34 @@ QByteArray utterances(const QList<std::tuple<int, int, QString>>& items);
 
 // Writes bytes to a file, creating the folder.
 bool writeFile(const QString& path, const QByteArray& bytes);
+
+// The whole file, or nothing when it cannot be read.
+QByteArray readFile(const QString& path);
+
+// A frame of one colour, and a capture record around a frame.
+QPixmap solidFrame(const QColor& color, int width = 320, int height = 180);
+AppConfig::CaptureData capture(const QPixmap& pixmap, double time, int frame);
+
+// Mean absolute difference per channel over an area (the whole image when
+// the area is null); huge when the sizes differ.
+double meanDifference(const QImage& a, const QImage& b, const QRect& area = QRect());
+
+// Bounding box of the pixels whose channels differ by more than threshold in sum.
+QRect changedBox(const QImage& a, const QImage& b, int threshold = 24);
+
+// Values of the bus events with this name that a spy on GlobalManager::globalEvent saw.
+QList<QVariant> eventValues(const QSignalSpy& spy, const QString& name);
+bool hasEvent(const QSignalSpy& spy, const QString& name);
+
+// A loopback port on which nothing listens.
+quint16 freePort();
+
+// A recording of read speech shipped with the recogniser's test data.
+QString librivox(const QString& part);
+
+// Speech as the app uploads it: the recordings joined and written with the
+// audio extraction's own arguments (an MP3 despite "-format wav").
+bool makeSpeechMp3(const QStringList& wavs, const QString& output);
 
 } // namespace TestSupport
 
