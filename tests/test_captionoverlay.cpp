@@ -277,9 +277,16 @@ void TestCaptionOverlay::dragMovesCaption()
 
     // 64 px right and 72 px up on a 640x360 surface is 38 and 58 script units.
     const QPoint start = overlay.captionRect().center();
+    // Moves are sent straight to the widget: QTest::mouseMove goes through the
+    // X server's pointer, whose events a busy machine may deliver late.
+    auto dragTo = [&overlay](const QPoint& pos) {
+        QMouseEvent move(QEvent::MouseMove, pos, overlay.mapToGlobal(pos), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(&overlay, &move);
+    };
     QTest::mousePress(&overlay, Qt::LeftButton, Qt::NoModifier, start);
-    QTest::mouseMove(&overlay, start + QPoint(30, -30));
-    QTest::mouseMove(&overlay, start + QPoint(64, -72));
+    dragTo(start + QPoint(30, -30));
+    dragTo(start + QPoint(64, -72));
     QTest::mouseRelease(&overlay, Qt::LeftButton, Qt::NoModifier, start + QPoint(64, -72));
     QCOMPARE(edits.count(), 1);
     QVERIFY(qAbs(info->captionEdit->x - 230) <= 1);
