@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "settings.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -48,7 +49,7 @@ void SaveImageThread::run()
     const int total = images.size();
     GlobalManager* manager = GlobalManager::instance();
     const QString base = manager->getCurrentFile().completeBaseName();
-    const QString ext = manager->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_PNG).toString();
+    const QString ext = Settings::instance()->value(AppConfig::FILE_EXTENSION, Settings::ExportWorker).toString();
     const bool registered = manager->isRegister();
 
     emit saveStart();
