@@ -7,8 +7,7 @@
 #include <QUrl>
 
 #ifdef Q_OS_MACOS
-#include "globalmanager.h"
-
+#include <QFile>
 #include <QProcess>
 #else
 #include <QDBusConnection>
@@ -30,7 +29,11 @@ void FileReveal::reveal(const QStringList& paths)
         = QStringLiteral("osascript -e 'tell application \"Finder\" to reveal {%1} activate'")
               .arg(items.join(QStringLiteral(", ")));
     const QString script = QStringLiteral("/tmp/selectfile.sh");
-    GlobalManager::writeFileContent(script, command);
+    QFile file(script);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        file.write(command.toUtf8());
+        file.close();
+    }
     qDebug() << "openfileselected:" << command;
     QProcess::startDetached(QStringLiteral("/bin/sh"), {script});
 #else
