@@ -159,6 +159,10 @@ void MainWindow::initialize()
         tryCaptureStep();
     });
     connect(TranslateManager::instance(), &TranslateManager::notify, this, [this](int) { retranslate(); });
+    connect(CaptionManager::instance(), &CaptionManager::aboutToReplaceCaptions, this, [this]() {
+        m_captureQueue.clear();
+        m_editedCaption = nullptr;
+    });
     retranslate();
 }
 
@@ -886,7 +890,7 @@ void MainWindow::captureSelectHandle(int type)
         m_loadingDialog->showWithText(tr("Capturing images"));
         CaptionInfo* first = m_captureQueue.takeFirst();
         // Single precision on purpose: it decides the frame hit near a boundary.
-        const float seconds = static_cast<float>(CaptionManager::parseAssTime(first->start)) / 1000.0f;
+        const float seconds = static_cast<float>(first->startMs()) / 1000.0f;
         seekForCapture(static_cast<double>(seconds));
     } else if (type == 17) {
         armCaptureStep(StepSelect);
@@ -905,7 +909,7 @@ void MainWindow::captureSelectStep()
     emitCapture(pixmap);
     if (!m_captureQueue.isEmpty()) {
         CaptionInfo* next = m_captureQueue.takeFirst();
-        const float seconds = static_cast<float>(CaptionManager::parseAssTime(next->start)) / 1000.0f;
+        const float seconds = static_cast<float>(next->startMs()) / 1000.0f;
         seekForCapture(static_cast<double>(seconds));
         return;
     }
