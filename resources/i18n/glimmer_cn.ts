@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>截图失败</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>播放器未能跳转到指定时间点。</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>正在截图</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>无法从播放器截取画面。</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>正在应用当前样式</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -438,14 +461,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Capture failed</source>
-        <translation>截图失败</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>播放器未能跳转到指定时间点。</translation>
-    </message>
-    <message>
         <source>The video cannot be played</source>
         <translation>无法播放该视频</translation>
     </message>
@@ -586,24 +601,22 @@
         <translation>自动生成字幕失败</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>正在截图</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>无法从播放器截取画面。</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>截取所选</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>正在应用当前样式</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>无法连接语音识别服务。</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>部分字幕未截图</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>有 %n 条字幕的开始时间在视频结束处或之后，或无法读取，已跳过。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Erfassen fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>Der Player hat die gewünschte Stelle nicht erreicht.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Bilder werden erfasst</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>Das Bild konnte nicht aus dem Player erfasst werden.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Aktueller Stil wird angewendet</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -440,14 +463,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Capture failed</source>
-        <translation>Erfassen fehlgeschlagen</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>Der Player hat die gewünschte Stelle nicht erreicht.</translation>
-    </message>
-    <message>
         <source>The video cannot be played</source>
         <translation>Das Video kann nicht abgespielt werden</translation>
     </message>
@@ -588,24 +603,23 @@
         <translation>Automatische Untertitel fehlgeschlagen</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Bilder werden erfasst</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>Das Bild konnte nicht aus dem Player erfasst werden.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Markierte erfassen</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Aktueller Stil wird angewendet</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>Der Spracherkennungsdienst ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Einige Untertitel wurden nicht aufgenommen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n Untertitel beginnt am oder nach dem Ende des Videos oder hat keine lesbare Startzeit und wurde übersprungen.</numerusform>
+            <numerusform>%n Untertitel beginnen am oder nach dem Ende des Videos oder haben keine lesbare Startzeit und wurden übersprungen.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Capture failed</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>The player did not reach the requested moment.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Capturing images</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>The frame could not be captured from the player.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Applying current style</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -440,14 +463,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Capture failed</source>
-        <translation>Capture failed</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>The player did not reach the requested moment.</translation>
-    </message>
-    <message>
         <source>The video cannot be played</source>
         <translation>The video cannot be played</translation>
     </message>
@@ -588,24 +603,23 @@
         <translation>Automatic captions failed</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Capturing images</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>The frame could not be captured from the player.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Capture checked</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Applying current style</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>The speech service could not be reached.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Some captions were not captured</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n caption starts at or after the end of the video, or has no readable start time, and was skipped.</numerusform>
+            <numerusform>%n captions start at or after the end of the video, or have no readable start time, and were skipped.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Error en la captura</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>El reproductor no ha llegado al momento solicitado.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Capturando imágenes</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>No se ha podido capturar el fotograma del reproductor.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Aplicando el estilo actual</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -440,14 +463,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Capture failed</source>
-        <translation>Error en la captura</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>El reproductor no ha llegado al momento solicitado.</translation>
-    </message>
-    <message>
         <source>The video cannot be played</source>
         <translation>No se puede reproducir el vídeo</translation>
     </message>
@@ -588,24 +603,23 @@
         <translation>Error al generar los subtítulos automáticos</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Capturando imágenes</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>No se ha podido capturar el fotograma del reproductor.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Capturar seleccionados</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Aplicando el estilo actual</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>No se pudo conectar con el servicio de reconocimiento de voz.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Algunos subtítulos no se capturaron</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n subtítulo empieza al final del vídeo o después, o no tiene una hora de inicio legible, y se ha omitido.</numerusform>
+            <numerusform>%n subtítulos empiezan al final del vídeo o después, o no tienen una hora de inicio legible, y se han omitido.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Échec de la capture</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>Le lecteur n’a pas atteint le moment demandé.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Capture des images</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>Impossible de capturer l’image depuis le lecteur.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Application du style actuel</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -440,14 +463,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Capture failed</source>
-        <translation>Échec de la capture</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>Le lecteur n’a pas atteint le moment demandé.</translation>
-    </message>
-    <message>
         <source>The video cannot be played</source>
         <translation>Impossible de lire la vidéo</translation>
     </message>
@@ -588,24 +603,23 @@
         <translation>Échec des sous-titres automatiques</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Capture des images</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>Impossible de capturer l’image depuis le lecteur.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Capturer la sélection</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Application du style actuel</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>Impossible de joindre le service de reconnaissance vocale.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Certains sous-titres n’ont pas été capturés</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n sous-titre commence à la fin de la vidéo ou après, ou n’a pas d’heure de début lisible, et a été ignoré.</numerusform>
+            <numerusform>%n sous-titres commencent à la fin de la vidéo ou après, ou n’ont pas d’heure de début lisible, et ont été ignorés.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>截圖失敗</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>播放器未能跳至指定時間點。</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>正在截圖</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>無法從播放器擷取畫面。</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>正在套用目前樣式</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -438,14 +461,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Capture failed</source>
-        <translation>截圖失敗</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>播放器未能跳至指定時間點。</translation>
-    </message>
-    <message>
         <source>The video cannot be played</source>
         <translation>無法播放此影片</translation>
     </message>
@@ -586,24 +601,22 @@
         <translation>自動產生字幕失敗</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>正在截圖</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>無法從播放器擷取畫面。</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>截取所選</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>正在套用目前樣式</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>無法連線至語音辨識服務。</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>部分字幕未截圖</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>有 %n 條字幕的開始時間在影片結束處或之後，或無法讀取，已略過。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Cattura non riuscita</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>Il lettore non ha raggiunto il punto richiesto.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Cattura delle immagini</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>Impossibile catturare il fotogramma dal lettore.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Applicazione dello stile attuale</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -440,14 +463,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Capture failed</source>
-        <translation>Cattura non riuscita</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>Il lettore non ha raggiunto il punto richiesto.</translation>
-    </message>
-    <message>
         <source>The video cannot be played</source>
         <translation>Impossibile riprodurre il video</translation>
     </message>
@@ -588,24 +603,23 @@
         <translation>Sottotitoli automatici non riusciti</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Cattura delle immagini</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>Impossibile catturare il fotogramma dal lettore.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Cattura selezionati</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Applicazione dello stile attuale</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>Impossibile raggiungere il servizio di riconoscimento vocale.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Alcuni sottotitoli non sono stati catturati</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n sottotitolo inizia alla fine del video o dopo, oppure non ha un orario di inizio leggibile, ed è stato saltato.</numerusform>
+            <numerusform>%n sottotitoli iniziano alla fine del video o dopo, oppure non hanno un orario di inizio leggibile, e sono stati saltati.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

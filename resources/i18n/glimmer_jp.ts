@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>キャプチャに失敗しました</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>プレーヤーが指定した位置に移動できませんでした。</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>画像をキャプチャしています</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>プレーヤーからフレームをキャプチャできませんでした。</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>現在のスタイルを適用しています</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -438,14 +461,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Capture failed</source>
-        <translation>キャプチャに失敗しました</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>プレーヤーが指定した位置に移動できませんでした。</translation>
-    </message>
-    <message>
         <source>The video cannot be played</source>
         <translation>動画を再生できません</translation>
     </message>
@@ -586,24 +601,22 @@
         <translation>自動字幕の生成に失敗しました</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>画像をキャプチャしています</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>プレーヤーからフレームをキャプチャできませんでした。</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>選択をキャプチャ</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>現在のスタイルを適用しています</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>音声認識サービスに接続できませんでした。</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>一部の字幕はキャプチャされませんでした</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n 件の字幕は動画の終わり以降に始まるか、開始時刻を読み取れないため、スキップされました。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Falha na captura</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>O player não chegou ao momento solicitado.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Capturando imagens</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>Não foi possível capturar o quadro do player.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Aplicando o estilo atual</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -440,14 +463,6 @@
 <context>
     <name>MainWindow</name>
     <message>
-        <source>Capture failed</source>
-        <translation>Falha na captura</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>O player não chegou ao momento solicitado.</translation>
-    </message>
-    <message>
         <source>The video cannot be played</source>
         <translation>Não é possível reproduzir o vídeo</translation>
     </message>
@@ -588,24 +603,23 @@
         <translation>Falha nas legendas automáticas</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Capturando imagens</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>Não foi possível capturar o quadro do player.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Capturar selecionadas</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Aplicando o estilo atual</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>Não foi possível acessar o serviço de reconhecimento de fala.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Algumas legendas não foram capturadas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n legenda começa no fim do vídeo ou depois, ou não tem um início legível, e foi ignorada.</numerusform>
+            <numerusform>%n legendas começam no fim do vídeo ou depois, ou não têm um início legível, e foram ignoradas.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

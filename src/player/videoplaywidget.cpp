@@ -7,6 +7,7 @@
 #include "captionstylebar.h"
 #include "globalmanager.h"
 #include "mpvwidget.h"
+#include "playercapturesource.h"
 #include "settings.h"
 
 #include <QComboBox>
@@ -63,6 +64,7 @@ VideoPlayWidget::VideoPlayWidget(QWidget* parent)
     auto* videoLayout = new QGridLayout(m_videoPage);
     videoLayout->setContentsMargins(0, 0, 0, 0);
     m_mpv = new MpvWidget(m_videoPage);
+    m_captureSource = new PlayerCaptureSource(this);
     m_overlay = new CaptionOverlay(m_videoPage);
     // Same cell: the overlay, created last, lies on top of the video.
     videoLayout->addWidget(m_mpv, 0, 0);
@@ -409,34 +411,18 @@ void VideoPlayWidget::playControlButtonClickHandle(QObject* widget)
         m_styleBar->setInsertEnabled(false);
         break;
     case ButtonCapture:
-        captureNow();
+        emit captureNowRequested();
         break;
     case ButtonCaptureSelected:
         pause();
         captureType = 1;
         emit captureSelectSignal(0);
+        emit captureCheckedRequested();
         break;
     default:
         break;
     }
     emit buttonClicked(id);
-}
-
-void VideoPlayWidget::captureNow()
-{
-    pause();
-    const QString path = GlobalManager::instance()->getTempPath(AppConfig::APP_NAME) + QStringLiteral("/shot.jpg");
-    const QPixmap pixmap = m_mpv->takeSnapshot(path);
-    if (pixmap.isNull()) {
-        qDebug() << "capture failed.";
-        return;
-    }
-    AppConfig::CaptureData data;
-    data.pixmap = pixmap;
-    data.time = m_mpv->getCurrentSecond();
-    data.frame = m_mpv->getCurrentFrame();
-    qDebug() << "capture complete:" << data.time << data.frame;
-    GlobalManager::instance()->emitEvent(AppConfig::CAPTURE_IMAGE, QVariant::fromValue(data));
 }
 
 void VideoPlayWidget::soundButtonClickHandle(QObject* widget)
@@ -600,6 +586,7 @@ void VideoPlayWidget::mpvEventHandle(mpv_event* event)
         case MpvWidget::RequestSubAdd:
             qDebug() << "Caption load complete";
             emit captureEventSignal(MpvWidget::RequestSubAdd, 0);
+            emit subtitleTrackAdded();
             break;
         case MpvWidget::RequestSubRemove:
             qDebug() << "Caption remove complete";
@@ -612,6 +599,7 @@ void VideoPlayWidget::mpvEventHandle(mpv_event* event)
             } else {
                 emit captureSelectSignal(17);
             }
+            emit captureSeekAnswered();
             break;
         default:
             break;

@@ -12,6 +12,7 @@ class CaptionInfo;
 class CaptionOverlay;
 class CaptionStyleBar;
 class MpvWidget;
+class PlayerCaptureSource;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -38,6 +39,8 @@ public:
     explicit VideoPlayWidget(QWidget* parent = nullptr);
 
     MpvWidget* getMpvWidget() const { return m_mpv; }
+    // The panel as seen by the capture flows.
+    PlayerCaptureSource* captureSource() const { return m_captureSource; }
     CaptionOverlay* getCaptionOverlay() const { return m_overlay; }
     CaptionStyleBar* getCaptionStyleBar() const { return m_styleBar; }
     QPushButton* getControlButton(int id) const { return m_buttons.value(id); }
@@ -94,6 +97,12 @@ signals:
     void playerTimePos(double time);
     void captureSelectSignal(int type);
     void captionCheckStateChangedSignal(CaptionInfo* event, int state);
+    // The same happenings by name, for the capture flows: libmpv's reply
+    // numbers stay inside the panel.
+    void captureNowRequested();
+    void captureCheckedRequested();
+    void captureSeekAnswered();
+    void subtitleTrackAdded();
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -106,11 +115,11 @@ private:
     QPushButton* createControlButton(int id, const QString& icon, const QString& styleProperty);
     void setPlayIcon(bool playing);
     void refreshCaption(double seconds);
-    void captureNow();
     void loadFailedHandle(const QString& path, const QString& reason);
     void resetTimeDisplay();
 
     MpvWidget* m_mpv = nullptr;
+    PlayerCaptureSource* m_captureSource = nullptr;
     CaptionOverlay* m_overlay = nullptr;
     CaptionStyleBar* m_styleBar = nullptr;
     QWidget* m_logo = nullptr;
