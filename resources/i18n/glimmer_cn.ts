@@ -787,8 +787,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>语音识别服务在 %1 没有响应。</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>语音识别服务未能及时启动。</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>

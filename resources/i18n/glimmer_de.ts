@@ -790,8 +790,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>Der Spracherkennungsdienst hat unter %1 nicht geantwortet.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>Der Spracherkennungsdienst ist nicht rechtzeitig gestartet.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>

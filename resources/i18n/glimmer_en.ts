@@ -790,8 +790,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>The speech service did not answer at %1.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>The speech service did not start in time.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>

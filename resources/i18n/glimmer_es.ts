@@ -790,8 +790,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>El servicio de reconocimiento de voz no ha respondido en %1.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>El servicio de reconocimiento de voz no se ha iniciado a tiempo.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>

@@ -790,8 +790,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>Le service de reconnaissance vocale n’a pas répondu à l’adresse %1.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>Le service de reconnaissance vocale n’a pas démarré à temps.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>

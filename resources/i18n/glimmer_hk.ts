@@ -787,8 +787,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>語音辨識服務在 %1 沒有回應。</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>語音辨識服務未能及時啟動。</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>

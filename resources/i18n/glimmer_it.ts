@@ -790,8 +790,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>Il servizio di riconoscimento vocale non ha risposto all’indirizzo %1.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>Il servizio di riconoscimento vocale non si è avviato in tempo.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>

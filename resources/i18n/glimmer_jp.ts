@@ -787,8 +787,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>音声認識サービスが %1 で応答しませんでした。</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>音声認識サービスが時間内に起動しませんでした。</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>

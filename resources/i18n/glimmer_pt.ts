@@ -790,8 +790,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>O serviço de reconhecimento de fala não respondeu em %1.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>O serviço de reconhecimento de fala não foi iniciado a tempo.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>
