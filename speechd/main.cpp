@@ -63,10 +63,12 @@ int main(int argc, char* argv[])
 
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("glimmer-speechd"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(GLIMMER_VERSION));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Local speech-recognition service for Glimmer."));
     parser.addHelpOption();
+    parser.addVersionOption();
     const QCommandLineOption hostOption(QStringLiteral("host"), QStringLiteral("Address to listen on."),
                                         QStringLiteral("address"), QStringLiteral("127.0.0.1"));
     const QCommandLineOption portOption(QStringLiteral("port"), QStringLiteral("Port to listen on; 0 picks a free one."),
