@@ -275,18 +275,6 @@
 <context>
     <name>GlobalManager</name>
     <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>无法转换 SRT 文件“%1”：找不到 ffmpeg。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>无法转换 SRT 文件“%1”：ffmpeg 未能及时完成。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>无法转换 SRT 文件“%1”。</translation>
-    </message>
-    <message>
         <source>The picture is empty.</source>
         <translation>图片为空。</translation>
     </message>
@@ -317,14 +305,6 @@
     <message>
         <source>Writing the picture failed: %1</source>
         <translation>写入图片失败：%1</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1：文件在移动到输出文件夹之前已不存在。</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>无法将 %1 移动到输出文件夹 %2，文件已保留在 %3。</translation>
     </message>
 </context>
 <context>
@@ -634,6 +614,17 @@
     </message>
 </context>
 <context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1：文件在移动到输出文件夹之前已不存在。</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>无法将 %1 移动到输出文件夹 %2，文件已保留在 %3。</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -797,6 +788,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>无法启动语音识别服务：%1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>无法转换 SRT 文件“%1”：找不到 ffmpeg。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>无法转换 SRT 文件“%1”：ffmpeg 未能及时完成。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>无法转换 SRT 文件“%1”。</translation>
     </message>
 </context>
 <context>

@@ -275,18 +275,6 @@
 <context>
     <name>GlobalManager</name>
     <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden: ffmpeg wurde nicht gefunden.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden: ffmpeg wurde nicht rechtzeitig fertig.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden.</translation>
-    </message>
-    <message>
         <source>The picture is empty.</source>
         <translation>Das Bild ist leer.</translation>
     </message>
@@ -317,14 +305,6 @@
     <message>
         <source>Writing the picture failed: %1</source>
         <translation>Das Bild konnte nicht geschrieben werden: %1</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1: Die Datei ist verschwunden, bevor sie in den Ausgabeordner verschoben werden konnte.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>%1 konnte nicht in den Ausgabeordner %2 verschoben werden; die Datei liegt weiterhin unter %3.</translation>
     </message>
 </context>
 <context>
@@ -636,6 +616,17 @@
     </message>
 </context>
 <context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1: Die Datei ist verschwunden, bevor sie in den Ausgabeordner verschoben werden konnte.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>%1 konnte nicht in den Ausgabeordner %2 verschoben werden; die Datei liegt weiterhin unter %3.</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -799,6 +790,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Der Spracherkennungsdienst konnte nicht gestartet werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden: ffmpeg wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden: ffmpeg wurde nicht rechtzeitig fertig.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden.</translation>
     </message>
 </context>
 <context>

@@ -275,18 +275,6 @@
 <context>
     <name>GlobalManager</name>
     <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>No se ha podido convertir el archivo SRT «%1»: no se ha encontrado ffmpeg.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>No se ha podido convertir el archivo SRT «%1»: ffmpeg no terminó a tiempo.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>No se ha podido convertir el archivo SRT «%1».</translation>
-    </message>
-    <message>
         <source>The picture is empty.</source>
         <translation>La imagen está vacía.</translation>
     </message>
@@ -317,14 +305,6 @@
     <message>
         <source>Writing the picture failed: %1</source>
         <translation>No se ha podido guardar la imagen: %1</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1: el archivo desapareció antes de poder moverlo a la carpeta de salida.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>No se ha podido mover %1 a la carpeta de salida %2; se ha conservado en %3.</translation>
     </message>
 </context>
 <context>
@@ -636,6 +616,17 @@
     </message>
 </context>
 <context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1: el archivo desapareció antes de poder moverlo a la carpeta de salida.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>No se ha podido mover %1 a la carpeta de salida %2; se ha conservado en %3.</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -799,6 +790,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>No se ha podido iniciar el servicio de reconocimiento de voz: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>No se ha podido convertir el archivo SRT «%1»: no se ha encontrado ffmpeg.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>No se ha podido convertir el archivo SRT «%1»: ffmpeg no terminó a tiempo.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>No se ha podido convertir el archivo SRT «%1».</translation>
     </message>
 </context>
 <context>

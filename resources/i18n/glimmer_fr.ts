@@ -275,18 +275,6 @@
 <context>
     <name>GlobalManager</name>
     <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>Impossible de convertir le fichier SRT « %1 » : ffmpeg est introuvable.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>Impossible de convertir le fichier SRT « %1 » : ffmpeg n’a pas terminé à temps.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>Impossible de convertir le fichier SRT « %1 ».</translation>
-    </message>
-    <message>
         <source>The picture is empty.</source>
         <translation>L’image est vide.</translation>
     </message>
@@ -317,14 +305,6 @@
     <message>
         <source>Writing the picture failed: %1</source>
         <translation>L’écriture de l’image a échoué : %1</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1 : le fichier a disparu avant d’avoir pu être déplacé dans le dossier de sortie.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>Impossible de déplacer %1 dans le dossier de sortie %2 ; le fichier a été conservé dans %3.</translation>
     </message>
 </context>
 <context>
@@ -636,6 +616,17 @@
     </message>
 </context>
 <context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1 : le fichier a disparu avant d’avoir pu être déplacé dans le dossier de sortie.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>Impossible de déplacer %1 dans le dossier de sortie %2 ; le fichier a été conservé dans %3.</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -799,6 +790,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Impossible de démarrer le service de reconnaissance vocale : %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>Impossible de convertir le fichier SRT « %1 » : ffmpeg est introuvable.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>Impossible de convertir le fichier SRT « %1 » : ffmpeg n’a pas terminé à temps.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>Impossible de convertir le fichier SRT « %1 ».</translation>
     </message>
 </context>
 <context>

@@ -275,18 +275,6 @@
 <context>
     <name>GlobalManager</name>
     <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>無法轉換 SRT 檔案「%1」：找不到 ffmpeg。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>無法轉換 SRT 檔案「%1」：ffmpeg 未能及時完成。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>無法轉換 SRT 檔案「%1」。</translation>
-    </message>
-    <message>
         <source>The picture is empty.</source>
         <translation>圖片是空的。</translation>
     </message>
@@ -317,14 +305,6 @@
     <message>
         <source>Writing the picture failed: %1</source>
         <translation>寫入圖片失敗：%1</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1：檔案在移至輸出資料夾之前已不存在。</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>無法將 %1 移至輸出資料夾 %2，檔案已保留在 %3。</translation>
     </message>
 </context>
 <context>
@@ -634,6 +614,17 @@
     </message>
 </context>
 <context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1：檔案在移至輸出資料夾之前已不存在。</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>無法將 %1 移至輸出資料夾 %2，檔案已保留在 %3。</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -797,6 +788,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>無法啟動語音辨識服務：%1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>無法轉換 SRT 檔案「%1」：找不到 ffmpeg。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>無法轉換 SRT 檔案「%1」：ffmpeg 未能及時完成。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>無法轉換 SRT 檔案「%1」。</translation>
     </message>
 </context>
 <context>

@@ -275,18 +275,6 @@
 <context>
     <name>GlobalManager</name>
     <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>Impossibile convertire il file SRT &quot;%1&quot;: ffmpeg non trovato.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>Impossibile convertire il file SRT &quot;%1&quot;: ffmpeg non ha terminato in tempo.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>Impossibile convertire il file SRT &quot;%1&quot;.</translation>
-    </message>
-    <message>
         <source>The picture is empty.</source>
         <translation>L’immagine è vuota.</translation>
     </message>
@@ -317,14 +305,6 @@
     <message>
         <source>Writing the picture failed: %1</source>
         <translation>Scrittura dell’immagine non riuscita: %1</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1: il file è scomparso prima di poter essere spostato nella cartella di destinazione.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>Impossibile spostare %1 nella cartella di destinazione %2; il file è stato conservato in %3.</translation>
     </message>
 </context>
 <context>
@@ -636,6 +616,17 @@
     </message>
 </context>
 <context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1: il file è scomparso prima di poter essere spostato nella cartella di destinazione.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>Impossibile spostare %1 nella cartella di destinazione %2; il file è stato conservato in %3.</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -799,6 +790,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Impossibile avviare il servizio di riconoscimento vocale: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>Impossibile convertire il file SRT &quot;%1&quot;: ffmpeg non trovato.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>Impossibile convertire il file SRT &quot;%1&quot;: ffmpeg non ha terminato in tempo.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>Impossibile convertire il file SRT &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>

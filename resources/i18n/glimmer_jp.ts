@@ -275,18 +275,6 @@
 <context>
     <name>GlobalManager</name>
     <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>SRT ファイル「%1」を変換できませんでした：ffmpeg が見つかりません。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>SRT ファイル「%1」を変換できませんでした：ffmpeg が時間内に終了しませんでした。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>SRT ファイル「%1」を変換できませんでした。</translation>
-    </message>
-    <message>
         <source>The picture is empty.</source>
         <translation>画像が空です。</translation>
     </message>
@@ -317,14 +305,6 @@
     <message>
         <source>Writing the picture failed: %1</source>
         <translation>画像の書き込みに失敗しました：%1</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1：出力フォルダーに移動する前にファイルが見つからなくなりました。</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>%1 を出力フォルダー %2 に移動できなかったため、%3 に残しました。</translation>
     </message>
 </context>
 <context>
@@ -634,6 +614,17 @@
     </message>
 </context>
 <context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1：出力フォルダーに移動する前にファイルが見つからなくなりました。</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>%1 を出力フォルダー %2 に移動できなかったため、%3 に残しました。</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -797,6 +788,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>音声認識サービスを起動できませんでした：%1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>SRT ファイル「%1」を変換できませんでした：ffmpeg が見つかりません。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>SRT ファイル「%1」を変換できませんでした：ffmpeg が時間内に終了しませんでした。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>SRT ファイル「%1」を変換できませんでした。</translation>
     </message>
 </context>
 <context>

@@ -275,18 +275,6 @@
 <context>
     <name>GlobalManager</name>
     <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;: o ffmpeg não foi encontrado.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;: o ffmpeg não terminou a tempo.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;.</translation>
-    </message>
-    <message>
         <source>The picture is empty.</source>
         <translation>A imagem está vazia.</translation>
     </message>
@@ -317,14 +305,6 @@
     <message>
         <source>Writing the picture failed: %1</source>
         <translation>Falha ao gravar a imagem: %1</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1: o arquivo desapareceu antes de ser movido para a pasta de saída.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>Não foi possível mover %1 para a pasta de saída %2; o arquivo foi mantido em %3.</translation>
     </message>
 </context>
 <context>
@@ -636,6 +616,17 @@
     </message>
 </context>
 <context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1: o arquivo desapareceu antes de ser movido para a pasta de saída.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>Não foi possível mover %1 para a pasta de saída %2; o arquivo foi mantido em %3.</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -799,6 +790,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Não foi possível iniciar o serviço de reconhecimento de fala: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;: o ffmpeg não foi encontrado.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;: o ffmpeg não terminou a tempo.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>

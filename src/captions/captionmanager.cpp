@@ -105,6 +105,14 @@ CaptionManager* CaptionManager::instance()
     return s_instance;
 }
 
+void CaptionManager::registerMetaTypes()
+{
+    qRegisterMetaType<CaptionInfo>("CaptionInfo");
+    qRegisterMetaType<CaptionEdit>("CaptionEdit");
+    AppConfig::registerMetaTypes();
+    qRegisterMetaType<CaptionInfo*>("CaptionInfo *");
+}
+
 CaptionManager::CaptionManager(QObject* parent)
     : QObject(parent)
 {

@@ -21,6 +21,9 @@ class CaptionManager : public QObject
     Q_OBJECT
 public:
     static CaptionManager* instance();
+    // Registers every value type that travels in queued signals and bus events:
+    // the caption records, then the core's types.
+    static void registerMetaTypes();
 
     void initLang();
     QList<Language::LanguageItem*> getLangItems() const { return m_langItems; }

@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "settings.h"
 #include "speechservice.h"
 
 #include <QDebug>
@@ -25,12 +26,15 @@ HttpManager::HttpManager(QObject* parent)
     : QObject(parent)
     , m_manager(new QNetworkAccessManager(this))
 {
+    // Replies reach the bus through the facade's two hand-off slots.
+    GlobalManager* global = GlobalManager::instance();
+    connect(this, &HttpManager::requestFinished, global, &GlobalManager::httpRequestFinished);
+    connect(this, &HttpManager::requestError, global, &GlobalManager::httpRequestError);
 }
 
 QString HttpManager::speechBaseUrl() const
 {
-    QString base = GlobalManager::instance()
-                       ->readSettings(AppConfig::SPEECH_SERVER_URL, AppConfig::DEFAULT_SPEECH_SERVER_URL)
+    QString base = Settings::instance()->value(AppConfig::SPEECH_SERVER_URL)
                        .toString();
     while (base.endsWith(QLatin1Char('/'))) {
         base.chop(1);

@@ -7,6 +7,7 @@
 #include "captionstylebar.h"
 #include "globalmanager.h"
 #include "mpvwidget.h"
+#include "settings.h"
 
 #include <QComboBox>
 #include <QDebug>
@@ -296,11 +297,10 @@ void VideoPlayWidget::initShortCut()
 
 void VideoPlayWidget::initConfig()
 {
-    GlobalManager* global = GlobalManager::instance();
-    if (global->readSettings(AppConfig::PLAYER_MUTE, false).toBool()) {
+    if (Settings::instance()->value(AppConfig::PLAYER_MUTE).toBool()) {
         soundButtonClickHandle(m_soundButton);
     }
-    const int volume = global->readSettings(AppConfig::PLAYER_VOLUME, 100).toInt();
+    const int volume = Settings::instance()->value(AppConfig::PLAYER_VOLUME).toInt();
     if (m_soundSlider->value() == volume) {
         m_mpv->setVolume(volume);
     } else {
@@ -453,7 +453,7 @@ void VideoPlayWidget::soundButtonClickHandle(QObject* widget)
 void VideoPlayWidget::loadFile()
 {
     GlobalManager* global = GlobalManager::instance();
-    const QString start = global->readSettings(AppConfig::OPEN_FILE_PATH, QString()).toString();
+    const QString start = Settings::instance()->value(AppConfig::OPEN_FILE_PATH).toString();
     const QString filter = QStringLiteral("%1  (*.mp4 *.avi *.mkv *.wmv *.mov *.flv *.webm)").arg(tr("Video Files"));
     const QString name = QFileDialog::getOpenFileName(this, tr("Open Video"), start, filter);
     // A cancelled dialog leaves the player and the remembered folder as they were.

@@ -5,6 +5,7 @@
 #include "captionitem.h"
 #include "captionmanager.h"
 #include "globalmanager.h"
+#include "settings.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -170,7 +171,7 @@ void CaptionWidget::buildUi()
 void CaptionWidget::fillLanguageBox()
 {
     CaptionManager* captions = CaptionManager::instance();
-    const int stored = GlobalManager::instance()->readSettings(AppConfig::AI_CAPTION_LANG, 7).toInt();
+    const int stored = Settings::instance()->value(AppConfig::AI_CAPTION_LANG).toInt();
     const int current = m_languageBox->count() > 0 ? currentLanguageKey() : stored;
     const QSignalBlocker blocker(m_languageBox);
     m_languageBox->clear();

@@ -17,6 +17,7 @@
 #include "registerdialog.h"
 #include "registerguidedialog.h"
 #include "screenmanager.h"
+#include "settings.h"
 #include "titlebar.h"
 #include "translatemanager.h"
 #include "videoplaywidget.h"
@@ -133,10 +134,10 @@ void MainWindow::initialize()
     connect(HttpManager::instance(), &HttpManager::requestError, this, &MainWindow::httpRequestErrorHandle);
 
     GlobalManager* global = GlobalManager::instance();
-    if (global->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString().isEmpty()) {
+    if (Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString().isEmpty()) {
         global->saveSettings(AppConfig::FILE_SAVE_PATH, global->getWritePath(AppConfig::APP_NAME));
     }
-    if (global->readSettings(AppConfig::OPEN_FILE_PATH, QString()).toString().isEmpty()) {
+    if (Settings::instance()->value(AppConfig::OPEN_FILE_PATH).toString().isEmpty()) {
         global->saveSettings(AppConfig::OPEN_FILE_PATH,
                              QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
     }
@@ -298,7 +299,7 @@ void MainWindow::initMenu()
     addAction(MenuQuit)->setShortcut(QKeySequence::Quit);
     connect(m_menu, &QMenu::aboutToShow, this, [this]() {
         const QString format
-            = GlobalManager::instance()->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_JPG).toString();
+            = Settings::instance()->value(AppConfig::FILE_EXTENSION).toString();
         for (QAction* action : m_formatGroup->actions()) {
             action->setChecked(action->data().toString() == format);
         }
@@ -319,10 +320,9 @@ void MainWindow::initTopBarMenu()
 
 void MainWindow::initConfig()
 {
-    GlobalManager* global = GlobalManager::instance();
-    m_previewWidget->changeOutputDir(global->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString());
+    m_previewWidget->changeOutputDir(Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString());
     m_previewWidget->changeFileExtension(
-        global->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_JPG).toString());
+        Settings::instance()->value(AppConfig::FILE_EXTENSION).toString());
 }
 
 QMap<int, QString> MainWindow::getMenuTextMap() const
@@ -357,7 +357,7 @@ void MainWindow::retranslate()
 void MainWindow::startUp(const QStringList& arguments)
 {
     GlobalManager* global = GlobalManager::instance();
-    if (!global->readSettings(AppConfig::FIRST_OPEN_APP, false).toBool()) {
+    if (!Settings::instance()->value(AppConfig::FIRST_OPEN_APP).toBool()) {
         global->saveSettings(AppConfig::FIRST_OPEN_APP, true);
         global->openUrl(global->getHomePageUrl());
     }
@@ -411,7 +411,7 @@ void MainWindow::menuTapByType(int type)
         showCaptionWidget(!m_captionWidget->isVisible());
         break;
     case MenuOutputFolder: {
-        const QString current = global->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString();
+        const QString current = Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString();
         const QString dir = QFileDialog::getExistingDirectory(this, tr("Choose the output folder"), current);
         if (!dir.isEmpty()) {
             global->saveSettings(AppConfig::FILE_SAVE_PATH, dir);
@@ -690,14 +690,13 @@ void MainWindow::globalEventHandle(QString eventName, QVariant value)
         m_titleBar->showButtonByRegister(value.toInt() == 1);
     }
     if (eventName == AppConfig::SETTING_CHANGE) {
-        GlobalManager* global = GlobalManager::instance();
         const QString key = value.toString();
         if (key == AppConfig::FILE_SAVE_PATH) {
-            m_previewWidget->changeOutputDir(global->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString());
+            m_previewWidget->changeOutputDir(Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString());
         }
         if (key == AppConfig::FILE_EXTENSION) {
             m_previewWidget->changeFileExtension(
-                global->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_JPG).toString());
+                Settings::instance()->value(AppConfig::FILE_EXTENSION).toString());
         }
     }
 }

@@ -1,4 +1,5 @@
 #include "appconfig.h"
+#include "captionmanager.h"
 #include "downloadmanager.h"
 #include "globalmanager.h"
 #include "licensemanager.h"
@@ -65,7 +66,7 @@ int main(int argc, char* argv[])
     }
     guard.create(1, QSharedMemory::ReadWrite);
 
-    AppConfig::registerMetaTypes();
+    CaptionManager::registerMetaTypes();
 
     auto* app = new QApplication(argc, argv);
     // libmpv refuses to start under a non-C numeric locale.
