@@ -104,6 +104,7 @@ int main(int argc, char* argv[])
 
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("glimmer-speechd"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(GLIMMER_VERSION));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
@@ -112,6 +113,7 @@ int main(int argc, char* argv[])
         "With $GLIMMER_SPEECHD_TOKEN set, requests without \"Authorization: Bearer <token>\" are refused (401).\n"
         "Requests whose Host is not the service's own address, and any with an Origin, are refused (403)."));
     parser.addHelpOption();
+    parser.addVersionOption();
     const QCommandLineOption hostOption(QStringLiteral("host"), QStringLiteral("Address to listen on."),
                                         QStringLiteral("address"), QStringLiteral("127.0.0.1"));
     const QCommandLineOption portOption(QStringLiteral("port"), QStringLiteral("Port to listen on; 0 picks a free one."),
