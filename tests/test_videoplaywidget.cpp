@@ -24,7 +24,7 @@ class Panel
 public:
     Panel()
         : widget(new VideoPlayWidget())
-        , capture(new CaptureController(widget->captureSource(), nullptr, widget.get()))
+        , capture(new CaptureController(new PlayerCaptureSource(widget.get()), nullptr, widget.get()))
     {
         // The capture button's flow, as the main window wires it.
         QObject::connect(widget.get(), &VideoPlayWidget::captureNowRequested, capture, &CaptureController::captureNow);

@@ -5,7 +5,7 @@
 
 class VideoPlayWidget;
 
-// The player panel as a capture source.
+// The player panel as a capture source (a child of the panel).
 class PlayerCaptureSource : public CaptureSource
 {
     Q_OBJECT

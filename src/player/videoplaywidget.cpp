@@ -7,7 +7,6 @@
 #include "captionstylebar.h"
 #include "globalmanager.h"
 #include "mpvwidget.h"
-#include "playercapturesource.h"
 #include "settings.h"
 
 #include <QComboBox>
@@ -64,7 +63,6 @@ VideoPlayWidget::VideoPlayWidget(QWidget* parent)
     auto* videoLayout = new QGridLayout(m_videoPage);
     videoLayout->setContentsMargins(0, 0, 0, 0);
     m_mpv = new MpvWidget(m_videoPage);
-    m_captureSource = new PlayerCaptureSource(this);
     m_overlay = new CaptionOverlay(m_videoPage);
     // Same cell: the overlay, created last, lies on top of the video.
     videoLayout->addWidget(m_mpv, 0, 0);

@@ -12,7 +12,6 @@ class CaptionInfo;
 class CaptionOverlay;
 class CaptionStyleBar;
 class MpvWidget;
-class PlayerCaptureSource;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -39,8 +38,6 @@ public:
     explicit VideoPlayWidget(QWidget* parent = nullptr);
 
     MpvWidget* getMpvWidget() const { return m_mpv; }
-    // The panel as seen by the capture flows.
-    PlayerCaptureSource* captureSource() const { return m_captureSource; }
     CaptionOverlay* getCaptionOverlay() const { return m_overlay; }
     CaptionStyleBar* getCaptionStyleBar() const { return m_styleBar; }
     QPushButton* getControlButton(int id) const { return m_buttons.value(id); }
@@ -119,7 +116,6 @@ private:
     void resetTimeDisplay();
 
     MpvWidget* m_mpv = nullptr;
-    PlayerCaptureSource* m_captureSource = nullptr;
     CaptionOverlay* m_overlay = nullptr;
     CaptionStyleBar* m_styleBar = nullptr;
     QWidget* m_logo = nullptr;

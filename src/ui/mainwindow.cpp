@@ -775,7 +775,8 @@ void MainWindow::httpRequestErrorHandle(const QString& key, const QJsonObject& o
 
 void MainWindow::initCaptureController()
 {
-    m_captureController = new CaptureController(m_videoPlayWidget->captureSource(), m_imagesWidget, this);
+    m_captureController
+        = new CaptureController(new PlayerCaptureSource(m_videoPlayWidget), m_imagesWidget, this);
     CaptureController* capture = m_captureController;
     connect(m_videoPlayWidget, &VideoPlayWidget::captureNowRequested, capture, &CaptureController::captureNow);
     connect(m_videoPlayWidget, &VideoPlayWidget::captureCheckedRequested, capture,
