@@ -119,8 +119,6 @@ void TestExport::init()
     manager->setRegister(true);
     m_strip = new ImagesWidget();
     m_preview = new PreviewWidget();
-    m_strip->exporter()->setShowMessages(false);
-    m_preview->exporter()->setShowMessages(false);
     connect(manager, &GlobalManager::globalEvent, m_preview, [this](const QString& name, const QVariant&) {
         if (name == AppConfig::SELECT_IMAGE_COMPLETE) {
             m_preview->showImage();

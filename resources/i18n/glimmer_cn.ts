@@ -21,6 +21,63 @@
     </message>
 </context>
 <context>
+    <name>AutoCaptionFlow</name>
+    <message>
+        <source>The speech service gave an answer that cannot be read.</source>
+        <translation>语音识别服务返回了无法读取的结果。</translation>
+    </message>
+    <message>
+        <source>No speech found</source>
+        <translation>未识别到语音</translation>
+    </message>
+    <message>
+        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
+        <translation>未能在该视频的音轨中识别出任何文字。请检查字幕语言，或改为添加字幕文件。</translation>
+    </message>
+    <message>
+        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
+        <translation>无法从视频中提取音轨。视频可能没有声音，或缺少 ffmpeg。</translation>
+    </message>
+    <message>
+        <source>Generating captions...</source>
+        <translation>正在生成字幕…</translation>
+    </message>
+    <message>
+        <source>Automatic captions failed</source>
+        <translation>自动生成字幕失败</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>无法连接语音识别服务。</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionDock</name>
+    <message>
+        <source>Captions</source>
+        <translation>字幕</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileFlow</name>
+    <message>
+        <source>Open local subtitle</source>
+        <translation>打开本地字幕</translation>
+    </message>
+    <message>
+        <source>Subtitle Files</source>
+        <translation>字幕文件</translation>
+    </message>
+    <message>
+        <source>The subtitle file could not be converted.</source>
+        <translation>无法转换字幕文件。</translation>
+    </message>
+    <message>
+        <source>%1 holds no captions that can be shown.</source>
+        <translation>%1 中没有可显示的字幕。</translation>
+    </message>
+</context>
+<context>
     <name>CaptionItem</name>
     <message>
         <source>Hide</source>
@@ -361,14 +418,6 @@
             <numerusform>已导出 %n 张图片，但有部分失败。</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Export</source>
-        <translation>导出</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>确定</translation>
-    </message>
 </context>
 <context>
     <name>ImageItem</name>
@@ -459,39 +508,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>The video cannot be played</source>
-        <translation>无法播放该视频</translation>
-    </message>
-    <message>
-        <source>%1 could not be opened: %2</source>
-        <translation>无法打开 %1：%2</translation>
-    </message>
-    <message>
-        <source>Some pictures were not saved</source>
-        <translation>部分图片未能保存</translation>
-    </message>
-    <message>
-        <source>The picture was not saved</source>
-        <translation>图片未能保存</translation>
-    </message>
-    <message>
-        <source>No video</source>
-        <translation>没有视频</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>请先打开视频，再在当前时间新建字幕。</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>此处无法添加字幕</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>当前时间已有字幕，请移到没有字幕的时间点。</translation>
-    </message>
+    <name>MainMenu</name>
     <message>
         <source>Open video...</source>
         <translation>打开视频…</translation>
@@ -537,8 +554,35 @@
         <translation>语言</translation>
     </message>
     <message>
-        <source>Captions</source>
-        <translation>字幕</translation>
+        <source>Choose the output folder</source>
+        <translation>选择输出文件夹</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>The video cannot be played</source>
+        <translation>无法播放该视频</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>无法打开 %1：%2</translation>
+    </message>
+    <message>
+        <source>No video</source>
+        <translation>没有视频</translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>请先打开视频，再在当前时间新建字幕。</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>此处无法添加字幕</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>当前时间已有字幕，请移到没有字幕的时间点。</translation>
     </message>
     <message>
         <source>The video cannot be opened</source>
@@ -547,76 +591,6 @@
     <message>
         <source>%1 does not exist or cannot be read.</source>
         <translation>%1 不存在或无法读取。</translation>
-    </message>
-    <message>
-        <source>Choose the output folder</source>
-        <translation>选择输出文件夹</translation>
-    </message>
-    <message>
-        <source>The speech service gave an answer that cannot be read.</source>
-        <translation>语音识别服务返回了无法读取的结果。</translation>
-    </message>
-    <message>
-        <source>No speech found</source>
-        <translation>未识别到语音</translation>
-    </message>
-    <message>
-        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
-        <translation>未能在该视频的音轨中识别出任何文字。请检查字幕语言，或改为添加字幕文件。</translation>
-    </message>
-    <message>
-        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
-        <translation>无法从视频中提取音轨。视频可能没有声音，或缺少 ffmpeg。</translation>
-    </message>
-    <message>
-        <source>Open local subtitle</source>
-        <translation>打开本地字幕</translation>
-    </message>
-    <message>
-        <source>Subtitle Files</source>
-        <translation>字幕文件</translation>
-    </message>
-    <message>
-        <source>The subtitle file could not be converted.</source>
-        <translation>无法转换字幕文件。</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>未加载字幕</translation>
-    </message>
-    <message>
-        <source>%1 holds no captions that can be shown.</source>
-        <translation>%1 中没有可显示的字幕。</translation>
-    </message>
-    <message>
-        <source>Open a video first, then generate its captions.</source>
-        <translation>请先打开视频，再生成字幕。</translation>
-    </message>
-    <message>
-        <source>Generating captions...</source>
-        <translation>正在生成字幕…</translation>
-    </message>
-    <message>
-        <source>Automatic captions failed</source>
-        <translation>自动生成字幕失败</translation>
-    </message>
-    <message>
-        <source>Capture checked</source>
-        <translation>截取所选</translation>
-    </message>
-    <message>
-        <source>The speech service could not be reached.</source>
-        <translation>无法连接语音识别服务。</translation>
-    </message>
-    <message>
-        <source>Some captions were not captured</source>
-        <translation>部分字幕未截图</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
-        <translation>
-            <numerusform>有 %n 条字幕的开始时间在视频结束处或之后，或无法读取，已跳过。</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -914,6 +888,35 @@
     <message>
         <source>New caption</source>
         <translation>新字幕</translation>
+    </message>
+</context>
+<context>
+    <name>WindowFlows</name>
+    <message>
+        <source>No video</source>
+        <translation>没有视频</translation>
+    </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>未加载字幕</translation>
+    </message>
+    <message>
+        <source>Open a video first, then generate its captions.</source>
+        <translation>请先打开视频，再生成字幕。</translation>
+    </message>
+    <message>
+        <source>Capture checked</source>
+        <translation>截取所选</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>部分字幕未截图</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>有 %n 条字幕的开始时间在视频结束处或之后，或无法读取，已跳过。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

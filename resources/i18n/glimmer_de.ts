@@ -21,6 +21,63 @@
     </message>
 </context>
 <context>
+    <name>AutoCaptionFlow</name>
+    <message>
+        <source>The speech service gave an answer that cannot be read.</source>
+        <translation>Der Spracherkennungsdienst hat eine unlesbare Antwort geliefert.</translation>
+    </message>
+    <message>
+        <source>No speech found</source>
+        <translation>Keine Sprache gefunden</translation>
+    </message>
+    <message>
+        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
+        <translation>In der Tonspur dieses Videos wurden keine Wörter erkannt. Prüfen Sie die Untertitelsprache oder fügen Sie stattdessen eine Untertiteldatei hinzu.</translation>
+    </message>
+    <message>
+        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
+        <translation>Die Tonspur konnte nicht aus dem Video extrahiert werden. Möglicherweise hat es keinen Ton oder ffmpeg fehlt.</translation>
+    </message>
+    <message>
+        <source>Generating captions...</source>
+        <translation>Untertitel werden erzeugt …</translation>
+    </message>
+    <message>
+        <source>Automatic captions failed</source>
+        <translation>Automatische Untertitel fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>Der Spracherkennungsdienst ist nicht erreichbar.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionDock</name>
+    <message>
+        <source>Captions</source>
+        <translation>Untertitel</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileFlow</name>
+    <message>
+        <source>Open local subtitle</source>
+        <translation>Untertiteldatei öffnen</translation>
+    </message>
+    <message>
+        <source>Subtitle Files</source>
+        <translation>Untertiteldateien</translation>
+    </message>
+    <message>
+        <source>The subtitle file could not be converted.</source>
+        <translation>Die Untertiteldatei konnte nicht umgewandelt werden.</translation>
+    </message>
+    <message>
+        <source>%1 holds no captions that can be shown.</source>
+        <translation>%1 enthält keine anzeigbaren Untertitel.</translation>
+    </message>
+</context>
+<context>
     <name>CaptionItem</name>
     <message>
         <source>Hide</source>
@@ -362,14 +419,6 @@
             <numerusform>%n Bilder wurden exportiert, einige andere jedoch nicht.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Export</source>
-        <translation>Exportieren</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
 </context>
 <context>
     <name>ImageItem</name>
@@ -461,39 +510,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>The video cannot be played</source>
-        <translation>Das Video kann nicht abgespielt werden</translation>
-    </message>
-    <message>
-        <source>%1 could not be opened: %2</source>
-        <translation>%1 konnte nicht geöffnet werden: %2</translation>
-    </message>
-    <message>
-        <source>Some pictures were not saved</source>
-        <translation>Einige Bilder wurden nicht gespeichert</translation>
-    </message>
-    <message>
-        <source>The picture was not saved</source>
-        <translation>Das Bild wurde nicht gespeichert</translation>
-    </message>
-    <message>
-        <source>No video</source>
-        <translation>Kein Video</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Öffnen Sie zuerst ein Video und erstellen Sie dann einen Untertitel an der aktuellen Stelle.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>Kein Platz für einen Untertitel</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>An der aktuellen Stelle gibt es bereits einen Untertitel. Gehen Sie zu einer Stelle ohne Untertitel.</translation>
-    </message>
+    <name>MainMenu</name>
     <message>
         <source>Open video...</source>
         <translation>Video öffnen …</translation>
@@ -539,8 +556,35 @@
         <translation>Sprache</translation>
     </message>
     <message>
-        <source>Captions</source>
-        <translation>Untertitel</translation>
+        <source>Choose the output folder</source>
+        <translation>Ausgabeordner wählen</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>The video cannot be played</source>
+        <translation>Das Video kann nicht abgespielt werden</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>%1 konnte nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>No video</source>
+        <translation>Kein Video</translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Öffnen Sie zuerst ein Video und erstellen Sie dann einen Untertitel an der aktuellen Stelle.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>Kein Platz für einen Untertitel</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>An der aktuellen Stelle gibt es bereits einen Untertitel. Gehen Sie zu einer Stelle ohne Untertitel.</translation>
     </message>
     <message>
         <source>The video cannot be opened</source>
@@ -549,77 +593,6 @@
     <message>
         <source>%1 does not exist or cannot be read.</source>
         <translation>%1 existiert nicht oder kann nicht gelesen werden.</translation>
-    </message>
-    <message>
-        <source>Choose the output folder</source>
-        <translation>Ausgabeordner wählen</translation>
-    </message>
-    <message>
-        <source>The speech service gave an answer that cannot be read.</source>
-        <translation>Der Spracherkennungsdienst hat eine unlesbare Antwort geliefert.</translation>
-    </message>
-    <message>
-        <source>No speech found</source>
-        <translation>Keine Sprache gefunden</translation>
-    </message>
-    <message>
-        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
-        <translation>In der Tonspur dieses Videos wurden keine Wörter erkannt. Prüfen Sie die Untertitelsprache oder fügen Sie stattdessen eine Untertiteldatei hinzu.</translation>
-    </message>
-    <message>
-        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
-        <translation>Die Tonspur konnte nicht aus dem Video extrahiert werden. Möglicherweise hat es keinen Ton oder ffmpeg fehlt.</translation>
-    </message>
-    <message>
-        <source>Open local subtitle</source>
-        <translation>Untertiteldatei öffnen</translation>
-    </message>
-    <message>
-        <source>Subtitle Files</source>
-        <translation>Untertiteldateien</translation>
-    </message>
-    <message>
-        <source>The subtitle file could not be converted.</source>
-        <translation>Die Untertiteldatei konnte nicht umgewandelt werden.</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>Keine Untertitel geladen</translation>
-    </message>
-    <message>
-        <source>%1 holds no captions that can be shown.</source>
-        <translation>%1 enthält keine anzeigbaren Untertitel.</translation>
-    </message>
-    <message>
-        <source>Open a video first, then generate its captions.</source>
-        <translation>Öffnen Sie zuerst ein Video und erzeugen Sie dann seine Untertitel.</translation>
-    </message>
-    <message>
-        <source>Generating captions...</source>
-        <translation>Untertitel werden erzeugt …</translation>
-    </message>
-    <message>
-        <source>Automatic captions failed</source>
-        <translation>Automatische Untertitel fehlgeschlagen</translation>
-    </message>
-    <message>
-        <source>Capture checked</source>
-        <translation>Markierte erfassen</translation>
-    </message>
-    <message>
-        <source>The speech service could not be reached.</source>
-        <translation>Der Spracherkennungsdienst ist nicht erreichbar.</translation>
-    </message>
-    <message>
-        <source>Some captions were not captured</source>
-        <translation>Einige Untertitel wurden nicht aufgenommen</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
-        <translation>
-            <numerusform>%n Untertitel beginnt am oder nach dem Ende des Videos oder hat keine lesbare Startzeit und wurde übersprungen.</numerusform>
-            <numerusform>%n Untertitel beginnen am oder nach dem Ende des Videos oder haben keine lesbare Startzeit und wurden übersprungen.</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -917,6 +890,36 @@
     <message>
         <source>New caption</source>
         <translation>Neuer Untertitel</translation>
+    </message>
+</context>
+<context>
+    <name>WindowFlows</name>
+    <message>
+        <source>No video</source>
+        <translation>Kein Video</translation>
+    </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>Keine Untertitel geladen</translation>
+    </message>
+    <message>
+        <source>Open a video first, then generate its captions.</source>
+        <translation>Öffnen Sie zuerst ein Video und erzeugen Sie dann seine Untertitel.</translation>
+    </message>
+    <message>
+        <source>Capture checked</source>
+        <translation>Markierte erfassen</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Einige Untertitel wurden nicht aufgenommen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n Untertitel beginnt am oder nach dem Ende des Videos oder hat keine lesbare Startzeit und wurde übersprungen.</numerusform>
+            <numerusform>%n Untertitel beginnen am oder nach dem Ende des Videos oder haben keine lesbare Startzeit und wurden übersprungen.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

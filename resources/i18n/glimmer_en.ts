@@ -21,6 +21,63 @@
     </message>
 </context>
 <context>
+    <name>AutoCaptionFlow</name>
+    <message>
+        <source>The speech service gave an answer that cannot be read.</source>
+        <translation>The speech service gave an answer that cannot be read.</translation>
+    </message>
+    <message>
+        <source>No speech found</source>
+        <translation>No speech found</translation>
+    </message>
+    <message>
+        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
+        <translation>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</translation>
+    </message>
+    <message>
+        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
+        <translation>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</translation>
+    </message>
+    <message>
+        <source>Generating captions...</source>
+        <translation>Generating captions...</translation>
+    </message>
+    <message>
+        <source>Automatic captions failed</source>
+        <translation>Automatic captions failed</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>The speech service could not be reached.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionDock</name>
+    <message>
+        <source>Captions</source>
+        <translation>Captions</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileFlow</name>
+    <message>
+        <source>Open local subtitle</source>
+        <translation>Open local subtitle</translation>
+    </message>
+    <message>
+        <source>Subtitle Files</source>
+        <translation>Subtitle Files</translation>
+    </message>
+    <message>
+        <source>The subtitle file could not be converted.</source>
+        <translation>The subtitle file could not be converted.</translation>
+    </message>
+    <message>
+        <source>%1 holds no captions that can be shown.</source>
+        <translation>%1 holds no captions that can be shown.</translation>
+    </message>
+</context>
+<context>
     <name>CaptionItem</name>
     <message>
         <source>Hide</source>
@@ -362,14 +419,6 @@
             <numerusform>%n pictures were exported, but some failed.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Export</source>
-        <translation>Export</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
 </context>
 <context>
     <name>ImageItem</name>
@@ -461,39 +510,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>The video cannot be played</source>
-        <translation>The video cannot be played</translation>
-    </message>
-    <message>
-        <source>%1 could not be opened: %2</source>
-        <translation>%1 could not be opened: %2</translation>
-    </message>
-    <message>
-        <source>Some pictures were not saved</source>
-        <translation>Some pictures were not saved</translation>
-    </message>
-    <message>
-        <source>The picture was not saved</source>
-        <translation>The picture was not saved</translation>
-    </message>
-    <message>
-        <source>No video</source>
-        <translation>No video</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Open a video first, then create a caption at the current time.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>No room for a caption</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>A caption already covers the current time. Move to a moment without a caption.</translation>
-    </message>
+    <name>MainMenu</name>
     <message>
         <source>Open video...</source>
         <translation>Open video...</translation>
@@ -539,8 +556,35 @@
         <translation>Language</translation>
     </message>
     <message>
-        <source>Captions</source>
-        <translation>Captions</translation>
+        <source>Choose the output folder</source>
+        <translation>Choose the output folder</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>The video cannot be played</source>
+        <translation>The video cannot be played</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>%1 could not be opened: %2</translation>
+    </message>
+    <message>
+        <source>No video</source>
+        <translation>No video</translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Open a video first, then create a caption at the current time.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>No room for a caption</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>A caption already covers the current time. Move to a moment without a caption.</translation>
     </message>
     <message>
         <source>The video cannot be opened</source>
@@ -549,77 +593,6 @@
     <message>
         <source>%1 does not exist or cannot be read.</source>
         <translation>%1 does not exist or cannot be read.</translation>
-    </message>
-    <message>
-        <source>Choose the output folder</source>
-        <translation>Choose the output folder</translation>
-    </message>
-    <message>
-        <source>The speech service gave an answer that cannot be read.</source>
-        <translation>The speech service gave an answer that cannot be read.</translation>
-    </message>
-    <message>
-        <source>No speech found</source>
-        <translation>No speech found</translation>
-    </message>
-    <message>
-        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
-        <translation>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</translation>
-    </message>
-    <message>
-        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
-        <translation>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</translation>
-    </message>
-    <message>
-        <source>Open local subtitle</source>
-        <translation>Open local subtitle</translation>
-    </message>
-    <message>
-        <source>Subtitle Files</source>
-        <translation>Subtitle Files</translation>
-    </message>
-    <message>
-        <source>The subtitle file could not be converted.</source>
-        <translation>The subtitle file could not be converted.</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>No captions loaded</translation>
-    </message>
-    <message>
-        <source>%1 holds no captions that can be shown.</source>
-        <translation>%1 holds no captions that can be shown.</translation>
-    </message>
-    <message>
-        <source>Open a video first, then generate its captions.</source>
-        <translation>Open a video first, then generate its captions.</translation>
-    </message>
-    <message>
-        <source>Generating captions...</source>
-        <translation>Generating captions...</translation>
-    </message>
-    <message>
-        <source>Automatic captions failed</source>
-        <translation>Automatic captions failed</translation>
-    </message>
-    <message>
-        <source>Capture checked</source>
-        <translation>Capture checked</translation>
-    </message>
-    <message>
-        <source>The speech service could not be reached.</source>
-        <translation>The speech service could not be reached.</translation>
-    </message>
-    <message>
-        <source>Some captions were not captured</source>
-        <translation>Some captions were not captured</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
-        <translation>
-            <numerusform>%n caption starts at or after the end of the video, or has no readable start time, and was skipped.</numerusform>
-            <numerusform>%n captions start at or after the end of the video, or have no readable start time, and were skipped.</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -917,6 +890,36 @@
     <message>
         <source>New caption</source>
         <translation>New caption</translation>
+    </message>
+</context>
+<context>
+    <name>WindowFlows</name>
+    <message>
+        <source>No video</source>
+        <translation>No video</translation>
+    </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>No captions loaded</translation>
+    </message>
+    <message>
+        <source>Open a video first, then generate its captions.</source>
+        <translation>Open a video first, then generate its captions.</translation>
+    </message>
+    <message>
+        <source>Capture checked</source>
+        <translation>Capture checked</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Some captions were not captured</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n caption starts at or after the end of the video, or has no readable start time, and was skipped.</numerusform>
+            <numerusform>%n captions start at or after the end of the video, or have no readable start time, and were skipped.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

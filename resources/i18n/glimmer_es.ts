@@ -21,6 +21,63 @@
     </message>
 </context>
 <context>
+    <name>AutoCaptionFlow</name>
+    <message>
+        <source>The speech service gave an answer that cannot be read.</source>
+        <translation>El servicio de reconocimiento de voz ha dado una respuesta que no se puede leer.</translation>
+    </message>
+    <message>
+        <source>No speech found</source>
+        <translation>No se ha encontrado voz</translation>
+    </message>
+    <message>
+        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
+        <translation>No se ha reconocido ninguna palabra en la pista de audio de este vídeo. Compruebe el idioma de los subtítulos o añada un archivo de subtítulos.</translation>
+    </message>
+    <message>
+        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
+        <translation>No se ha podido extraer la pista de audio del vídeo. Puede que no tenga audio o que falte ffmpeg.</translation>
+    </message>
+    <message>
+        <source>Generating captions...</source>
+        <translation>Generando subtítulos...</translation>
+    </message>
+    <message>
+        <source>Automatic captions failed</source>
+        <translation>Error al generar los subtítulos automáticos</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>No se pudo conectar con el servicio de reconocimiento de voz.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionDock</name>
+    <message>
+        <source>Captions</source>
+        <translation>Subtítulos</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileFlow</name>
+    <message>
+        <source>Open local subtitle</source>
+        <translation>Abrir subtítulos locales</translation>
+    </message>
+    <message>
+        <source>Subtitle Files</source>
+        <translation>Archivos de subtítulos</translation>
+    </message>
+    <message>
+        <source>The subtitle file could not be converted.</source>
+        <translation>No se ha podido convertir el archivo de subtítulos.</translation>
+    </message>
+    <message>
+        <source>%1 holds no captions that can be shown.</source>
+        <translation>%1 no contiene subtítulos que se puedan mostrar.</translation>
+    </message>
+</context>
+<context>
     <name>CaptionItem</name>
     <message>
         <source>Hide</source>
@@ -362,14 +419,6 @@
             <numerusform>Se han exportado %n imágenes, pero otras han fallado.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Export</source>
-        <translation>Exportar</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>Aceptar</translation>
-    </message>
 </context>
 <context>
     <name>ImageItem</name>
@@ -461,39 +510,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>The video cannot be played</source>
-        <translation>No se puede reproducir el vídeo</translation>
-    </message>
-    <message>
-        <source>%1 could not be opened: %2</source>
-        <translation>No se ha podido abrir %1: %2</translation>
-    </message>
-    <message>
-        <source>Some pictures were not saved</source>
-        <translation>Algunas imágenes no se han guardado</translation>
-    </message>
-    <message>
-        <source>The picture was not saved</source>
-        <translation>La imagen no se ha guardado</translation>
-    </message>
-    <message>
-        <source>No video</source>
-        <translation>No hay vídeo</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Abra primero un vídeo y luego cree un subtítulo en el momento actual.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>No hay sitio para un subtítulo</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>Ya hay un subtítulo en el momento actual. Vaya a un momento sin subtítulo.</translation>
-    </message>
+    <name>MainMenu</name>
     <message>
         <source>Open video...</source>
         <translation>Abrir vídeo...</translation>
@@ -539,8 +556,35 @@
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>Captions</source>
-        <translation>Subtítulos</translation>
+        <source>Choose the output folder</source>
+        <translation>Elegir la carpeta de salida</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>The video cannot be played</source>
+        <translation>No se puede reproducir el vídeo</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>No se ha podido abrir %1: %2</translation>
+    </message>
+    <message>
+        <source>No video</source>
+        <translation>No hay vídeo</translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Abra primero un vídeo y luego cree un subtítulo en el momento actual.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>No hay sitio para un subtítulo</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>Ya hay un subtítulo en el momento actual. Vaya a un momento sin subtítulo.</translation>
     </message>
     <message>
         <source>The video cannot be opened</source>
@@ -549,77 +593,6 @@
     <message>
         <source>%1 does not exist or cannot be read.</source>
         <translation>%1 no existe o no se puede leer.</translation>
-    </message>
-    <message>
-        <source>Choose the output folder</source>
-        <translation>Elegir la carpeta de salida</translation>
-    </message>
-    <message>
-        <source>The speech service gave an answer that cannot be read.</source>
-        <translation>El servicio de reconocimiento de voz ha dado una respuesta que no se puede leer.</translation>
-    </message>
-    <message>
-        <source>No speech found</source>
-        <translation>No se ha encontrado voz</translation>
-    </message>
-    <message>
-        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
-        <translation>No se ha reconocido ninguna palabra en la pista de audio de este vídeo. Compruebe el idioma de los subtítulos o añada un archivo de subtítulos.</translation>
-    </message>
-    <message>
-        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
-        <translation>No se ha podido extraer la pista de audio del vídeo. Puede que no tenga audio o que falte ffmpeg.</translation>
-    </message>
-    <message>
-        <source>Open local subtitle</source>
-        <translation>Abrir subtítulos locales</translation>
-    </message>
-    <message>
-        <source>Subtitle Files</source>
-        <translation>Archivos de subtítulos</translation>
-    </message>
-    <message>
-        <source>The subtitle file could not be converted.</source>
-        <translation>No se ha podido convertir el archivo de subtítulos.</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>No se han cargado subtítulos</translation>
-    </message>
-    <message>
-        <source>%1 holds no captions that can be shown.</source>
-        <translation>%1 no contiene subtítulos que se puedan mostrar.</translation>
-    </message>
-    <message>
-        <source>Open a video first, then generate its captions.</source>
-        <translation>Abra primero un vídeo y luego genere sus subtítulos.</translation>
-    </message>
-    <message>
-        <source>Generating captions...</source>
-        <translation>Generando subtítulos...</translation>
-    </message>
-    <message>
-        <source>Automatic captions failed</source>
-        <translation>Error al generar los subtítulos automáticos</translation>
-    </message>
-    <message>
-        <source>Capture checked</source>
-        <translation>Capturar seleccionados</translation>
-    </message>
-    <message>
-        <source>The speech service could not be reached.</source>
-        <translation>No se pudo conectar con el servicio de reconocimiento de voz.</translation>
-    </message>
-    <message>
-        <source>Some captions were not captured</source>
-        <translation>Algunos subtítulos no se capturaron</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
-        <translation>
-            <numerusform>%n subtítulo empieza al final del vídeo o después, o no tiene una hora de inicio legible, y se ha omitido.</numerusform>
-            <numerusform>%n subtítulos empiezan al final del vídeo o después, o no tienen una hora de inicio legible, y se han omitido.</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -917,6 +890,36 @@
     <message>
         <source>New caption</source>
         <translation>Nuevo subtítulo</translation>
+    </message>
+</context>
+<context>
+    <name>WindowFlows</name>
+    <message>
+        <source>No video</source>
+        <translation>No hay vídeo</translation>
+    </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>No se han cargado subtítulos</translation>
+    </message>
+    <message>
+        <source>Open a video first, then generate its captions.</source>
+        <translation>Abra primero un vídeo y luego genere sus subtítulos.</translation>
+    </message>
+    <message>
+        <source>Capture checked</source>
+        <translation>Capturar seleccionados</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Algunos subtítulos no se capturaron</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n subtítulo empieza al final del vídeo o después, o no tiene una hora de inicio legible, y se ha omitido.</numerusform>
+            <numerusform>%n subtítulos empiezan al final del vídeo o después, o no tienen una hora de inicio legible, y se han omitido.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,63 @@
     </message>
 </context>
 <context>
+    <name>AutoCaptionFlow</name>
+    <message>
+        <source>The speech service gave an answer that cannot be read.</source>
+        <translation>Le service de reconnaissance vocale a renvoyé une réponse illisible.</translation>
+    </message>
+    <message>
+        <source>No speech found</source>
+        <translation>Aucune parole détectée</translation>
+    </message>
+    <message>
+        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
+        <translation>Aucun mot n’a été reconnu dans la piste audio de cette vidéo. Vérifiez la langue des sous-titres ou ajoutez plutôt un fichier de sous-titres.</translation>
+    </message>
+    <message>
+        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
+        <translation>Impossible d’extraire la piste audio de la vidéo. Elle n’a peut-être pas de son, ou ffmpeg est absent.</translation>
+    </message>
+    <message>
+        <source>Generating captions...</source>
+        <translation>Génération des sous-titres…</translation>
+    </message>
+    <message>
+        <source>Automatic captions failed</source>
+        <translation>Échec des sous-titres automatiques</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>Impossible de joindre le service de reconnaissance vocale.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionDock</name>
+    <message>
+        <source>Captions</source>
+        <translation>Sous-titres</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileFlow</name>
+    <message>
+        <source>Open local subtitle</source>
+        <translation>Ouvrir un fichier de sous-titres</translation>
+    </message>
+    <message>
+        <source>Subtitle Files</source>
+        <translation>Fichiers de sous-titres</translation>
+    </message>
+    <message>
+        <source>The subtitle file could not be converted.</source>
+        <translation>Impossible de convertir le fichier de sous-titres.</translation>
+    </message>
+    <message>
+        <source>%1 holds no captions that can be shown.</source>
+        <translation>%1 ne contient aucun sous-titre affichable.</translation>
+    </message>
+</context>
+<context>
     <name>CaptionItem</name>
     <message>
         <source>Hide</source>
@@ -362,14 +419,6 @@
             <numerusform>%n images ont été exportées, mais d’autres ont échoué.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Export</source>
-        <translation>Exporter</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
 </context>
 <context>
     <name>ImageItem</name>
@@ -461,39 +510,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>The video cannot be played</source>
-        <translation>Impossible de lire la vidéo</translation>
-    </message>
-    <message>
-        <source>%1 could not be opened: %2</source>
-        <translation>Impossible d’ouvrir %1 : %2</translation>
-    </message>
-    <message>
-        <source>Some pictures were not saved</source>
-        <translation>Certaines images n’ont pas été enregistrées</translation>
-    </message>
-    <message>
-        <source>The picture was not saved</source>
-        <translation>L’image n’a pas été enregistrée</translation>
-    </message>
-    <message>
-        <source>No video</source>
-        <translation>Aucune vidéo</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Ouvrez d’abord une vidéo, puis créez un sous-titre à l’instant actuel.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>Pas de place pour un sous-titre</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>Un sous-titre couvre déjà l’instant actuel. Placez-vous à un moment sans sous-titre.</translation>
-    </message>
+    <name>MainMenu</name>
     <message>
         <source>Open video...</source>
         <translation>Ouvrir une vidéo…</translation>
@@ -539,8 +556,35 @@
         <translation>Langue</translation>
     </message>
     <message>
-        <source>Captions</source>
-        <translation>Sous-titres</translation>
+        <source>Choose the output folder</source>
+        <translation>Choisir le dossier de sortie</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>The video cannot be played</source>
+        <translation>Impossible de lire la vidéo</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>Impossible d’ouvrir %1 : %2</translation>
+    </message>
+    <message>
+        <source>No video</source>
+        <translation>Aucune vidéo</translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Ouvrez d’abord une vidéo, puis créez un sous-titre à l’instant actuel.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>Pas de place pour un sous-titre</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>Un sous-titre couvre déjà l’instant actuel. Placez-vous à un moment sans sous-titre.</translation>
     </message>
     <message>
         <source>The video cannot be opened</source>
@@ -549,77 +593,6 @@
     <message>
         <source>%1 does not exist or cannot be read.</source>
         <translation>%1 n’existe pas ou ne peut pas être lu.</translation>
-    </message>
-    <message>
-        <source>Choose the output folder</source>
-        <translation>Choisir le dossier de sortie</translation>
-    </message>
-    <message>
-        <source>The speech service gave an answer that cannot be read.</source>
-        <translation>Le service de reconnaissance vocale a renvoyé une réponse illisible.</translation>
-    </message>
-    <message>
-        <source>No speech found</source>
-        <translation>Aucune parole détectée</translation>
-    </message>
-    <message>
-        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
-        <translation>Aucun mot n’a été reconnu dans la piste audio de cette vidéo. Vérifiez la langue des sous-titres ou ajoutez plutôt un fichier de sous-titres.</translation>
-    </message>
-    <message>
-        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
-        <translation>Impossible d’extraire la piste audio de la vidéo. Elle n’a peut-être pas de son, ou ffmpeg est absent.</translation>
-    </message>
-    <message>
-        <source>Open local subtitle</source>
-        <translation>Ouvrir un fichier de sous-titres</translation>
-    </message>
-    <message>
-        <source>Subtitle Files</source>
-        <translation>Fichiers de sous-titres</translation>
-    </message>
-    <message>
-        <source>The subtitle file could not be converted.</source>
-        <translation>Impossible de convertir le fichier de sous-titres.</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>Aucun sous-titre chargé</translation>
-    </message>
-    <message>
-        <source>%1 holds no captions that can be shown.</source>
-        <translation>%1 ne contient aucun sous-titre affichable.</translation>
-    </message>
-    <message>
-        <source>Open a video first, then generate its captions.</source>
-        <translation>Ouvrez d’abord une vidéo, puis générez ses sous-titres.</translation>
-    </message>
-    <message>
-        <source>Generating captions...</source>
-        <translation>Génération des sous-titres…</translation>
-    </message>
-    <message>
-        <source>Automatic captions failed</source>
-        <translation>Échec des sous-titres automatiques</translation>
-    </message>
-    <message>
-        <source>Capture checked</source>
-        <translation>Capturer la sélection</translation>
-    </message>
-    <message>
-        <source>The speech service could not be reached.</source>
-        <translation>Impossible de joindre le service de reconnaissance vocale.</translation>
-    </message>
-    <message>
-        <source>Some captions were not captured</source>
-        <translation>Certains sous-titres n’ont pas été capturés</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
-        <translation>
-            <numerusform>%n sous-titre commence à la fin de la vidéo ou après, ou n’a pas d’heure de début lisible, et a été ignoré.</numerusform>
-            <numerusform>%n sous-titres commencent à la fin de la vidéo ou après, ou n’ont pas d’heure de début lisible, et ont été ignorés.</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -917,6 +890,36 @@
     <message>
         <source>New caption</source>
         <translation>Nouveau sous-titre</translation>
+    </message>
+</context>
+<context>
+    <name>WindowFlows</name>
+    <message>
+        <source>No video</source>
+        <translation>Aucune vidéo</translation>
+    </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>Aucun sous-titre chargé</translation>
+    </message>
+    <message>
+        <source>Open a video first, then generate its captions.</source>
+        <translation>Ouvrez d’abord une vidéo, puis générez ses sous-titres.</translation>
+    </message>
+    <message>
+        <source>Capture checked</source>
+        <translation>Capturer la sélection</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Certains sous-titres n’ont pas été capturés</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n sous-titre commence à la fin de la vidéo ou après, ou n’a pas d’heure de début lisible, et a été ignoré.</numerusform>
+            <numerusform>%n sous-titres commencent à la fin de la vidéo ou après, ou n’ont pas d’heure de début lisible, et ont été ignorés.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,63 @@
     </message>
 </context>
 <context>
+    <name>AutoCaptionFlow</name>
+    <message>
+        <source>The speech service gave an answer that cannot be read.</source>
+        <translation>語音辨識服務傳回了無法讀取的結果。</translation>
+    </message>
+    <message>
+        <source>No speech found</source>
+        <translation>未辨識到語音</translation>
+    </message>
+    <message>
+        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
+        <translation>未能在此影片的音軌中辨識出任何文字。請檢查字幕語言，或改為加入字幕檔案。</translation>
+    </message>
+    <message>
+        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
+        <translation>無法從影片中擷取音軌。影片可能沒有聲音，或缺少 ffmpeg。</translation>
+    </message>
+    <message>
+        <source>Generating captions...</source>
+        <translation>正在產生字幕…</translation>
+    </message>
+    <message>
+        <source>Automatic captions failed</source>
+        <translation>自動產生字幕失敗</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>無法連線至語音辨識服務。</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionDock</name>
+    <message>
+        <source>Captions</source>
+        <translation>字幕</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileFlow</name>
+    <message>
+        <source>Open local subtitle</source>
+        <translation>開啟本機字幕</translation>
+    </message>
+    <message>
+        <source>Subtitle Files</source>
+        <translation>字幕檔案</translation>
+    </message>
+    <message>
+        <source>The subtitle file could not be converted.</source>
+        <translation>無法轉換字幕檔案。</translation>
+    </message>
+    <message>
+        <source>%1 holds no captions that can be shown.</source>
+        <translation>%1 中沒有可顯示的字幕。</translation>
+    </message>
+</context>
+<context>
     <name>CaptionItem</name>
     <message>
         <source>Hide</source>
@@ -361,14 +418,6 @@
             <numerusform>已匯出 %n 張圖片，但有部分失敗。</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Export</source>
-        <translation>匯出</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>確定</translation>
-    </message>
 </context>
 <context>
     <name>ImageItem</name>
@@ -459,39 +508,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>The video cannot be played</source>
-        <translation>無法播放此影片</translation>
-    </message>
-    <message>
-        <source>%1 could not be opened: %2</source>
-        <translation>無法開啟 %1：%2</translation>
-    </message>
-    <message>
-        <source>Some pictures were not saved</source>
-        <translation>部分圖片未能儲存</translation>
-    </message>
-    <message>
-        <source>The picture was not saved</source>
-        <translation>圖片未能儲存</translation>
-    </message>
-    <message>
-        <source>No video</source>
-        <translation>沒有影片</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>請先開啟影片，再於目前時間新增字幕。</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>此處無法新增字幕</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>目前時間已有字幕，請移到沒有字幕的時間點。</translation>
-    </message>
+    <name>MainMenu</name>
     <message>
         <source>Open video...</source>
         <translation>開啟影片…</translation>
@@ -537,8 +554,35 @@
         <translation>語言</translation>
     </message>
     <message>
-        <source>Captions</source>
-        <translation>字幕</translation>
+        <source>Choose the output folder</source>
+        <translation>選擇輸出資料夾</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>The video cannot be played</source>
+        <translation>無法播放此影片</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>無法開啟 %1：%2</translation>
+    </message>
+    <message>
+        <source>No video</source>
+        <translation>沒有影片</translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>請先開啟影片，再於目前時間新增字幕。</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>此處無法新增字幕</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>目前時間已有字幕，請移到沒有字幕的時間點。</translation>
     </message>
     <message>
         <source>The video cannot be opened</source>
@@ -547,76 +591,6 @@
     <message>
         <source>%1 does not exist or cannot be read.</source>
         <translation>%1 不存在或無法讀取。</translation>
-    </message>
-    <message>
-        <source>Choose the output folder</source>
-        <translation>選擇輸出資料夾</translation>
-    </message>
-    <message>
-        <source>The speech service gave an answer that cannot be read.</source>
-        <translation>語音辨識服務傳回了無法讀取的結果。</translation>
-    </message>
-    <message>
-        <source>No speech found</source>
-        <translation>未辨識到語音</translation>
-    </message>
-    <message>
-        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
-        <translation>未能在此影片的音軌中辨識出任何文字。請檢查字幕語言，或改為加入字幕檔案。</translation>
-    </message>
-    <message>
-        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
-        <translation>無法從影片中擷取音軌。影片可能沒有聲音，或缺少 ffmpeg。</translation>
-    </message>
-    <message>
-        <source>Open local subtitle</source>
-        <translation>開啟本機字幕</translation>
-    </message>
-    <message>
-        <source>Subtitle Files</source>
-        <translation>字幕檔案</translation>
-    </message>
-    <message>
-        <source>The subtitle file could not be converted.</source>
-        <translation>無法轉換字幕檔案。</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>未載入字幕</translation>
-    </message>
-    <message>
-        <source>%1 holds no captions that can be shown.</source>
-        <translation>%1 中沒有可顯示的字幕。</translation>
-    </message>
-    <message>
-        <source>Open a video first, then generate its captions.</source>
-        <translation>請先開啟影片，再產生字幕。</translation>
-    </message>
-    <message>
-        <source>Generating captions...</source>
-        <translation>正在產生字幕…</translation>
-    </message>
-    <message>
-        <source>Automatic captions failed</source>
-        <translation>自動產生字幕失敗</translation>
-    </message>
-    <message>
-        <source>Capture checked</source>
-        <translation>截取所選</translation>
-    </message>
-    <message>
-        <source>The speech service could not be reached.</source>
-        <translation>無法連線至語音辨識服務。</translation>
-    </message>
-    <message>
-        <source>Some captions were not captured</source>
-        <translation>部分字幕未截圖</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
-        <translation>
-            <numerusform>有 %n 條字幕的開始時間在影片結束處或之後，或無法讀取，已略過。</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -914,6 +888,35 @@
     <message>
         <source>New caption</source>
         <translation>新字幕</translation>
+    </message>
+</context>
+<context>
+    <name>WindowFlows</name>
+    <message>
+        <source>No video</source>
+        <translation>沒有影片</translation>
+    </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>未載入字幕</translation>
+    </message>
+    <message>
+        <source>Open a video first, then generate its captions.</source>
+        <translation>請先開啟影片，再產生字幕。</translation>
+    </message>
+    <message>
+        <source>Capture checked</source>
+        <translation>截取所選</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>部分字幕未截圖</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>有 %n 條字幕的開始時間在影片結束處或之後，或無法讀取，已略過。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,63 @@
     </message>
 </context>
 <context>
+    <name>AutoCaptionFlow</name>
+    <message>
+        <source>The speech service gave an answer that cannot be read.</source>
+        <translation>Il servizio di riconoscimento vocale ha fornito una risposta illeggibile.</translation>
+    </message>
+    <message>
+        <source>No speech found</source>
+        <translation>Nessun parlato rilevato</translation>
+    </message>
+    <message>
+        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
+        <translation>Nessuna parola riconosciuta nella traccia audio di questo video. Controlla la lingua dei sottotitoli oppure aggiungi un file di sottotitoli.</translation>
+    </message>
+    <message>
+        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
+        <translation>Impossibile estrarre la traccia audio dal video. Potrebbe non avere audio oppure manca ffmpeg.</translation>
+    </message>
+    <message>
+        <source>Generating captions...</source>
+        <translation>Generazione dei sottotitoli...</translation>
+    </message>
+    <message>
+        <source>Automatic captions failed</source>
+        <translation>Sottotitoli automatici non riusciti</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>Impossibile raggiungere il servizio di riconoscimento vocale.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionDock</name>
+    <message>
+        <source>Captions</source>
+        <translation>Sottotitoli</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileFlow</name>
+    <message>
+        <source>Open local subtitle</source>
+        <translation>Apri sottotitoli locali</translation>
+    </message>
+    <message>
+        <source>Subtitle Files</source>
+        <translation>File di sottotitoli</translation>
+    </message>
+    <message>
+        <source>The subtitle file could not be converted.</source>
+        <translation>Impossibile convertire il file di sottotitoli.</translation>
+    </message>
+    <message>
+        <source>%1 holds no captions that can be shown.</source>
+        <translation>%1 non contiene sottotitoli visualizzabili.</translation>
+    </message>
+</context>
+<context>
     <name>CaptionItem</name>
     <message>
         <source>Hide</source>
@@ -362,14 +419,6 @@
             <numerusform>%n immagini sono state esportate, ma altre non sono riuscite.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Export</source>
-        <translation>Esporta</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
 </context>
 <context>
     <name>ImageItem</name>
@@ -461,39 +510,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>The video cannot be played</source>
-        <translation>Impossibile riprodurre il video</translation>
-    </message>
-    <message>
-        <source>%1 could not be opened: %2</source>
-        <translation>Impossibile aprire %1: %2</translation>
-    </message>
-    <message>
-        <source>Some pictures were not saved</source>
-        <translation>Alcune immagini non sono state salvate</translation>
-    </message>
-    <message>
-        <source>The picture was not saved</source>
-        <translation>L’immagine non è stata salvata</translation>
-    </message>
-    <message>
-        <source>No video</source>
-        <translation>Nessun video</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Apri prima un video, poi crea un sottotitolo nel punto attuale.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>Non c’è spazio per un sottotitolo</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>Nel punto attuale c’è già un sottotitolo. Spostati in un punto senza sottotitoli.</translation>
-    </message>
+    <name>MainMenu</name>
     <message>
         <source>Open video...</source>
         <translation>Apri video...</translation>
@@ -539,8 +556,35 @@
         <translation>Lingua</translation>
     </message>
     <message>
-        <source>Captions</source>
-        <translation>Sottotitoli</translation>
+        <source>Choose the output folder</source>
+        <translation>Scegli la cartella di destinazione</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>The video cannot be played</source>
+        <translation>Impossibile riprodurre il video</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>Impossibile aprire %1: %2</translation>
+    </message>
+    <message>
+        <source>No video</source>
+        <translation>Nessun video</translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Apri prima un video, poi crea un sottotitolo nel punto attuale.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>Non c’è spazio per un sottotitolo</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>Nel punto attuale c’è già un sottotitolo. Spostati in un punto senza sottotitoli.</translation>
     </message>
     <message>
         <source>The video cannot be opened</source>
@@ -549,77 +593,6 @@
     <message>
         <source>%1 does not exist or cannot be read.</source>
         <translation>%1 non esiste o non può essere letto.</translation>
-    </message>
-    <message>
-        <source>Choose the output folder</source>
-        <translation>Scegli la cartella di destinazione</translation>
-    </message>
-    <message>
-        <source>The speech service gave an answer that cannot be read.</source>
-        <translation>Il servizio di riconoscimento vocale ha fornito una risposta illeggibile.</translation>
-    </message>
-    <message>
-        <source>No speech found</source>
-        <translation>Nessun parlato rilevato</translation>
-    </message>
-    <message>
-        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
-        <translation>Nessuna parola riconosciuta nella traccia audio di questo video. Controlla la lingua dei sottotitoli oppure aggiungi un file di sottotitoli.</translation>
-    </message>
-    <message>
-        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
-        <translation>Impossibile estrarre la traccia audio dal video. Potrebbe non avere audio oppure manca ffmpeg.</translation>
-    </message>
-    <message>
-        <source>Open local subtitle</source>
-        <translation>Apri sottotitoli locali</translation>
-    </message>
-    <message>
-        <source>Subtitle Files</source>
-        <translation>File di sottotitoli</translation>
-    </message>
-    <message>
-        <source>The subtitle file could not be converted.</source>
-        <translation>Impossibile convertire il file di sottotitoli.</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>Nessun sottotitolo caricato</translation>
-    </message>
-    <message>
-        <source>%1 holds no captions that can be shown.</source>
-        <translation>%1 non contiene sottotitoli visualizzabili.</translation>
-    </message>
-    <message>
-        <source>Open a video first, then generate its captions.</source>
-        <translation>Apri prima un video, poi genera i suoi sottotitoli.</translation>
-    </message>
-    <message>
-        <source>Generating captions...</source>
-        <translation>Generazione dei sottotitoli...</translation>
-    </message>
-    <message>
-        <source>Automatic captions failed</source>
-        <translation>Sottotitoli automatici non riusciti</translation>
-    </message>
-    <message>
-        <source>Capture checked</source>
-        <translation>Cattura selezionati</translation>
-    </message>
-    <message>
-        <source>The speech service could not be reached.</source>
-        <translation>Impossibile raggiungere il servizio di riconoscimento vocale.</translation>
-    </message>
-    <message>
-        <source>Some captions were not captured</source>
-        <translation>Alcuni sottotitoli non sono stati catturati</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
-        <translation>
-            <numerusform>%n sottotitolo inizia alla fine del video o dopo, oppure non ha un orario di inizio leggibile, ed è stato saltato.</numerusform>
-            <numerusform>%n sottotitoli iniziano alla fine del video o dopo, oppure non hanno un orario di inizio leggibile, e sono stati saltati.</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -917,6 +890,36 @@
     <message>
         <source>New caption</source>
         <translation>Nuovo sottotitolo</translation>
+    </message>
+</context>
+<context>
+    <name>WindowFlows</name>
+    <message>
+        <source>No video</source>
+        <translation>Nessun video</translation>
+    </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>Nessun sottotitolo caricato</translation>
+    </message>
+    <message>
+        <source>Open a video first, then generate its captions.</source>
+        <translation>Apri prima un video, poi genera i suoi sottotitoli.</translation>
+    </message>
+    <message>
+        <source>Capture checked</source>
+        <translation>Cattura selezionati</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Alcuni sottotitoli non sono stati catturati</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n sottotitolo inizia alla fine del video o dopo, oppure non ha un orario di inizio leggibile, ed è stato saltato.</numerusform>
+            <numerusform>%n sottotitoli iniziano alla fine del video o dopo, oppure non hanno un orario di inizio leggibile, e sono stati saltati.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,63 @@
     </message>
 </context>
 <context>
+    <name>AutoCaptionFlow</name>
+    <message>
+        <source>The speech service gave an answer that cannot be read.</source>
+        <translation>音声認識サービスから読み取れない応答が返されました。</translation>
+    </message>
+    <message>
+        <source>No speech found</source>
+        <translation>音声が見つかりません</translation>
+    </message>
+    <message>
+        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
+        <translation>この動画の音声トラックから言葉を認識できませんでした。字幕の言語を確認するか、代わりに字幕ファイルを追加してください。</translation>
+    </message>
+    <message>
+        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
+        <translation>動画から音声トラックを抽出できませんでした。音声がないか、ffmpeg が見つかりません。</translation>
+    </message>
+    <message>
+        <source>Generating captions...</source>
+        <translation>字幕を生成しています…</translation>
+    </message>
+    <message>
+        <source>Automatic captions failed</source>
+        <translation>自動字幕の生成に失敗しました</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>音声認識サービスに接続できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionDock</name>
+    <message>
+        <source>Captions</source>
+        <translation>字幕</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileFlow</name>
+    <message>
+        <source>Open local subtitle</source>
+        <translation>ローカル字幕を開く</translation>
+    </message>
+    <message>
+        <source>Subtitle Files</source>
+        <translation>字幕ファイル</translation>
+    </message>
+    <message>
+        <source>The subtitle file could not be converted.</source>
+        <translation>字幕ファイルを変換できませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 holds no captions that can be shown.</source>
+        <translation>%1 には表示できる字幕がありません。</translation>
+    </message>
+</context>
+<context>
     <name>CaptionItem</name>
     <message>
         <source>Hide</source>
@@ -361,14 +418,6 @@
             <numerusform>%n 枚の画像をエクスポートしましたが、一部は失敗しました。</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Export</source>
-        <translation>エクスポート</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
 </context>
 <context>
     <name>ImageItem</name>
@@ -459,39 +508,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>The video cannot be played</source>
-        <translation>動画を再生できません</translation>
-    </message>
-    <message>
-        <source>%1 could not be opened: %2</source>
-        <translation>%1 を開けませんでした：%2</translation>
-    </message>
-    <message>
-        <source>Some pictures were not saved</source>
-        <translation>一部の画像を保存できませんでした</translation>
-    </message>
-    <message>
-        <source>The picture was not saved</source>
-        <translation>画像を保存できませんでした</translation>
-    </message>
-    <message>
-        <source>No video</source>
-        <translation>動画がありません</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>先に動画を開いてから、現在の位置に字幕を作成してください。</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>ここには字幕を追加できません</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>現在の位置にはすでに字幕があります。字幕のない位置に移動してください。</translation>
-    </message>
+    <name>MainMenu</name>
     <message>
         <source>Open video...</source>
         <translation>動画を開く…</translation>
@@ -537,8 +554,35 @@
         <translation>言語</translation>
     </message>
     <message>
-        <source>Captions</source>
-        <translation>字幕</translation>
+        <source>Choose the output folder</source>
+        <translation>出力フォルダーを選択</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>The video cannot be played</source>
+        <translation>動画を再生できません</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>%1 を開けませんでした：%2</translation>
+    </message>
+    <message>
+        <source>No video</source>
+        <translation>動画がありません</translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>先に動画を開いてから、現在の位置に字幕を作成してください。</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>ここには字幕を追加できません</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>現在の位置にはすでに字幕があります。字幕のない位置に移動してください。</translation>
     </message>
     <message>
         <source>The video cannot be opened</source>
@@ -547,76 +591,6 @@
     <message>
         <source>%1 does not exist or cannot be read.</source>
         <translation>%1 は存在しないか、読み取れません。</translation>
-    </message>
-    <message>
-        <source>Choose the output folder</source>
-        <translation>出力フォルダーを選択</translation>
-    </message>
-    <message>
-        <source>The speech service gave an answer that cannot be read.</source>
-        <translation>音声認識サービスから読み取れない応答が返されました。</translation>
-    </message>
-    <message>
-        <source>No speech found</source>
-        <translation>音声が見つかりません</translation>
-    </message>
-    <message>
-        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
-        <translation>この動画の音声トラックから言葉を認識できませんでした。字幕の言語を確認するか、代わりに字幕ファイルを追加してください。</translation>
-    </message>
-    <message>
-        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
-        <translation>動画から音声トラックを抽出できませんでした。音声がないか、ffmpeg が見つかりません。</translation>
-    </message>
-    <message>
-        <source>Open local subtitle</source>
-        <translation>ローカル字幕を開く</translation>
-    </message>
-    <message>
-        <source>Subtitle Files</source>
-        <translation>字幕ファイル</translation>
-    </message>
-    <message>
-        <source>The subtitle file could not be converted.</source>
-        <translation>字幕ファイルを変換できませんでした。</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>字幕を読み込めませんでした</translation>
-    </message>
-    <message>
-        <source>%1 holds no captions that can be shown.</source>
-        <translation>%1 には表示できる字幕がありません。</translation>
-    </message>
-    <message>
-        <source>Open a video first, then generate its captions.</source>
-        <translation>先に動画を開いてから、字幕を生成してください。</translation>
-    </message>
-    <message>
-        <source>Generating captions...</source>
-        <translation>字幕を生成しています…</translation>
-    </message>
-    <message>
-        <source>Automatic captions failed</source>
-        <translation>自動字幕の生成に失敗しました</translation>
-    </message>
-    <message>
-        <source>Capture checked</source>
-        <translation>選択をキャプチャ</translation>
-    </message>
-    <message>
-        <source>The speech service could not be reached.</source>
-        <translation>音声認識サービスに接続できませんでした。</translation>
-    </message>
-    <message>
-        <source>Some captions were not captured</source>
-        <translation>一部の字幕はキャプチャされませんでした</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
-        <translation>
-            <numerusform>%n 件の字幕は動画の終わり以降に始まるか、開始時刻を読み取れないため、スキップされました。</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -914,6 +888,35 @@
     <message>
         <source>New caption</source>
         <translation>新しい字幕</translation>
+    </message>
+</context>
+<context>
+    <name>WindowFlows</name>
+    <message>
+        <source>No video</source>
+        <translation>動画がありません</translation>
+    </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>字幕を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>Open a video first, then generate its captions.</source>
+        <translation>先に動画を開いてから、字幕を生成してください。</translation>
+    </message>
+    <message>
+        <source>Capture checked</source>
+        <translation>選択をキャプチャ</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>一部の字幕はキャプチャされませんでした</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n 件の字幕は動画の終わり以降に始まるか、開始時刻を読み取れないため、スキップされました。</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -21,6 +21,63 @@
     </message>
 </context>
 <context>
+    <name>AutoCaptionFlow</name>
+    <message>
+        <source>The speech service gave an answer that cannot be read.</source>
+        <translation>O serviço de reconhecimento de fala deu uma resposta que não pode ser lida.</translation>
+    </message>
+    <message>
+        <source>No speech found</source>
+        <translation>Nenhuma fala encontrada</translation>
+    </message>
+    <message>
+        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
+        <translation>Nenhuma palavra foi reconhecida na faixa de áudio deste vídeo. Verifique o idioma da legenda ou adicione um arquivo de legendas.</translation>
+    </message>
+    <message>
+        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
+        <translation>Não foi possível extrair a faixa de áudio do vídeo. Ele pode não ter áudio, ou o ffmpeg está ausente.</translation>
+    </message>
+    <message>
+        <source>Generating captions...</source>
+        <translation>Gerando legendas...</translation>
+    </message>
+    <message>
+        <source>Automatic captions failed</source>
+        <translation>Falha nas legendas automáticas</translation>
+    </message>
+    <message>
+        <source>The speech service could not be reached.</source>
+        <translation>Não foi possível acessar o serviço de reconhecimento de fala.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionDock</name>
+    <message>
+        <source>Captions</source>
+        <translation>Legendas</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileFlow</name>
+    <message>
+        <source>Open local subtitle</source>
+        <translation>Abrir legenda local</translation>
+    </message>
+    <message>
+        <source>Subtitle Files</source>
+        <translation>Arquivos de legenda</translation>
+    </message>
+    <message>
+        <source>The subtitle file could not be converted.</source>
+        <translation>Não foi possível converter o arquivo de legendas.</translation>
+    </message>
+    <message>
+        <source>%1 holds no captions that can be shown.</source>
+        <translation>%1 não contém legendas que possam ser exibidas.</translation>
+    </message>
+</context>
+<context>
     <name>CaptionItem</name>
     <message>
         <source>Hide</source>
@@ -362,14 +419,6 @@
             <numerusform>%n imagens foram exportadas, mas outras falharam.</numerusform>
         </translation>
     </message>
-    <message>
-        <source>Export</source>
-        <translation>Exportar</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
 </context>
 <context>
     <name>ImageItem</name>
@@ -461,39 +510,7 @@
     </message>
 </context>
 <context>
-    <name>MainWindow</name>
-    <message>
-        <source>The video cannot be played</source>
-        <translation>Não é possível reproduzir o vídeo</translation>
-    </message>
-    <message>
-        <source>%1 could not be opened: %2</source>
-        <translation>Não foi possível abrir %1: %2</translation>
-    </message>
-    <message>
-        <source>Some pictures were not saved</source>
-        <translation>Algumas imagens não foram salvas</translation>
-    </message>
-    <message>
-        <source>The picture was not saved</source>
-        <translation>A imagem não foi salva</translation>
-    </message>
-    <message>
-        <source>No video</source>
-        <translation>Nenhum vídeo</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Abra um vídeo primeiro e depois crie uma legenda no momento atual.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>Não há espaço para uma legenda</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>Já existe uma legenda no momento atual. Vá para um momento sem legenda.</translation>
-    </message>
+    <name>MainMenu</name>
     <message>
         <source>Open video...</source>
         <translation>Abrir vídeo...</translation>
@@ -539,8 +556,35 @@
         <translation>Idioma</translation>
     </message>
     <message>
-        <source>Captions</source>
-        <translation>Legendas</translation>
+        <source>Choose the output folder</source>
+        <translation>Escolher a pasta de saída</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>The video cannot be played</source>
+        <translation>Não é possível reproduzir o vídeo</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2</source>
+        <translation>Não foi possível abrir %1: %2</translation>
+    </message>
+    <message>
+        <source>No video</source>
+        <translation>Nenhum vídeo</translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Abra um vídeo primeiro e depois crie uma legenda no momento atual.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>Não há espaço para uma legenda</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>Já existe uma legenda no momento atual. Vá para um momento sem legenda.</translation>
     </message>
     <message>
         <source>The video cannot be opened</source>
@@ -549,77 +593,6 @@
     <message>
         <source>%1 does not exist or cannot be read.</source>
         <translation>%1 não existe ou não pode ser lido.</translation>
-    </message>
-    <message>
-        <source>Choose the output folder</source>
-        <translation>Escolher a pasta de saída</translation>
-    </message>
-    <message>
-        <source>The speech service gave an answer that cannot be read.</source>
-        <translation>O serviço de reconhecimento de fala deu uma resposta que não pode ser lida.</translation>
-    </message>
-    <message>
-        <source>No speech found</source>
-        <translation>Nenhuma fala encontrada</translation>
-    </message>
-    <message>
-        <source>No words were recognised in this video&apos;s sound track. Check the caption language, or add a subtitle file instead.</source>
-        <translation>Nenhuma palavra foi reconhecida na faixa de áudio deste vídeo. Verifique o idioma da legenda ou adicione um arquivo de legendas.</translation>
-    </message>
-    <message>
-        <source>The sound track could not be extracted from the video. It may have no audio, or ffmpeg is missing.</source>
-        <translation>Não foi possível extrair a faixa de áudio do vídeo. Ele pode não ter áudio, ou o ffmpeg está ausente.</translation>
-    </message>
-    <message>
-        <source>Open local subtitle</source>
-        <translation>Abrir legenda local</translation>
-    </message>
-    <message>
-        <source>Subtitle Files</source>
-        <translation>Arquivos de legenda</translation>
-    </message>
-    <message>
-        <source>The subtitle file could not be converted.</source>
-        <translation>Não foi possível converter o arquivo de legendas.</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>Nenhuma legenda carregada</translation>
-    </message>
-    <message>
-        <source>%1 holds no captions that can be shown.</source>
-        <translation>%1 não contém legendas que possam ser exibidas.</translation>
-    </message>
-    <message>
-        <source>Open a video first, then generate its captions.</source>
-        <translation>Abra um vídeo primeiro e depois gere as legendas.</translation>
-    </message>
-    <message>
-        <source>Generating captions...</source>
-        <translation>Gerando legendas...</translation>
-    </message>
-    <message>
-        <source>Automatic captions failed</source>
-        <translation>Falha nas legendas automáticas</translation>
-    </message>
-    <message>
-        <source>Capture checked</source>
-        <translation>Capturar selecionadas</translation>
-    </message>
-    <message>
-        <source>The speech service could not be reached.</source>
-        <translation>Não foi possível acessar o serviço de reconhecimento de fala.</translation>
-    </message>
-    <message>
-        <source>Some captions were not captured</source>
-        <translation>Algumas legendas não foram capturadas</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
-        <translation>
-            <numerusform>%n legenda começa no fim do vídeo ou depois, ou não tem um início legível, e foi ignorada.</numerusform>
-            <numerusform>%n legendas começam no fim do vídeo ou depois, ou não têm um início legível, e foram ignoradas.</numerusform>
-        </translation>
     </message>
 </context>
 <context>
@@ -917,6 +890,36 @@
     <message>
         <source>New caption</source>
         <translation>Nova legenda</translation>
+    </message>
+</context>
+<context>
+    <name>WindowFlows</name>
+    <message>
+        <source>No video</source>
+        <translation>Nenhum vídeo</translation>
+    </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>Nenhuma legenda carregada</translation>
+    </message>
+    <message>
+        <source>Open a video first, then generate its captions.</source>
+        <translation>Abra um vídeo primeiro e depois gere as legendas.</translation>
+    </message>
+    <message>
+        <source>Capture checked</source>
+        <translation>Capturar selecionadas</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Algumas legendas não foram capturadas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n legenda começa no fim do vídeo ou depois, ou não tem um início legível, e foi ignorada.</numerusform>
+            <numerusform>%n legendas começam no fim do vídeo ou depois, ou não têm um início legível, e foram ignoradas.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -6,8 +6,6 @@
 #include "settings.h"
 
 #include <QDebug>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QMetaMethod>
 #include <QWidget>
 
@@ -97,17 +95,15 @@ void ImageExporter::moveAndReveal()
     m_errors.clear();
     if (!errors.isEmpty()) {
         qWarning() << "export failures:" << errors;
-        if (m_showMessages && m_owner) {
-            const QString text = files.isEmpty()
-                                     ? tr("No picture was exported.")
-                                     : tr("%n picture(s) were exported, but some failed.", nullptr, files.size());
-            auto* box = new QMessageBox(QMessageBox::Warning, tr("Export"), text, QMessageBox::Ok, m_owner);
-            box->setInformativeText(errors.join(QLatin1Char('\n')));
-            // Qt's own button texts are not in our catalogues.
-            box->button(QMessageBox::Ok)->setText(tr("OK"));
-            box->setAttribute(Qt::WA_DeleteOnClose);
-            box->open();
-        }
     }
     emit exportFinished(files, errors);
+}
+
+QString ImageExporter::summary(const QStringList& files, const QStringList& errors)
+{
+    if (errors.isEmpty()) {
+        return QString();
+    }
+    return files.isEmpty() ? tr("No picture was exported.")
+                           : tr("%n picture(s) were exported, but some failed.", nullptr, files.size());
 }

@@ -13,8 +13,8 @@ class SaveImageThread;
 // The export flow shared by the preview and the list view: writes the pictures
 // on a SaveImageThread into a temporary folder under the output folder, then
 // (after the registration guide, once per run, for an unregistered copy) moves
-// them into the output folder and reveals them. Every failure reaches the user
-// in one message that names the pictures and the reasons.
+// them into the output folder and reveals them. Every failure is reported in
+// exportFinished(), for one message that names the pictures and the reasons.
 class ImageExporter : public QObject
 {
     Q_OBJECT
@@ -25,8 +25,8 @@ public:
     bool start(const QList<QPixmap>& pixmaps);
     bool isRunning() const;
     SaveImageThread* saveThread() const { return m_thread; }
-    // Whether failures are shown in a message box (tests switch it off and read the signal).
-    void setShowMessages(bool show) { m_showMessages = show; }
+    // The headline of a finished export's failures; empty when nothing failed.
+    static QString summary(const QStringList& files, const QStringList& errors);
 
 signals:
     void exportStarted();
@@ -52,7 +52,6 @@ private:
     QStringList m_pending;
     bool m_waitingForGuide = false;
     bool m_busy = false;
-    bool m_showMessages = true;
 };
 
 #endif // IMAGEEXPORTER_H

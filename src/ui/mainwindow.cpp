@@ -1,50 +1,41 @@
 #include "mainwindow.h"
 
-#include "aboutdialog.h"
 #include "appconfig.h"
 #include "captioninfo.h"
 #include "captionmanager.h"
+#include "captiondock.h"
+#include "autocaptionflow.h"
+#include "captionfileflow.h"
 #include "captionwidget.h"
 #include "capturecontroller.h"
-#include "playercapturesource.h"
 #include "checkupdatedialog.h"
 #include "globalmanager.h"
 #include "httpmanager.h"
+#include "imageexporter.h"
 #include "imageitem.h"
 #include "imageswidget.h"
 #include "loadingdialog.h"
+#include "mainmenu.h"
 #include "messagedialog.h"
 #include "mpvwidget.h"
 #include "previewwidget.h"
-#include "registerdialog.h"
 #include "registerguidedialog.h"
-#include "screenmanager.h"
 #include "settings.h"
 #include "titlebar.h"
 #include "translatemanager.h"
 #include "videoplaywidget.h"
+#include "windowflows.h"
 
-#include <QAction>
-#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDebug>
-#include <QDesktopServices>
-#include <QDialog>
-#include <QFileDialog>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QMenu>
 #include <QPushButton>
-#include <QToolButton>
 #include <QSplitter>
 #include <QStandardPaths>
-#include <QTimer>
 #include <QTranslator>
 #include <QUrl>
 #include <QVBoxLayout>
-#include <QWindow>
 
 MainWindow::MainWindow(QWidget* parent)
     : CFramelessWindow(parent)
@@ -85,7 +76,10 @@ void MainWindow::initialize()
     connect(m_loadingDialog, &QDialog::finished, this, [](int) {
         GlobalManager::instance()->emitEvent(AppConfig::STOP_AI_CAPTION, QString());
     });
-    initCaptureController();
+    m_flows = new WindowFlows({this, m_videoPlayWidget, m_imagesWidget, m_previewWidget, m_captionWidget,
+                               m_loadingDialog, m_messageDialog});
+    connect(m_flows, &WindowFlows::captureCheckedFinished, this, &MainWindow::captureSelectFinished);
+    connect(m_flows, &WindowFlows::recaptureFinished, this, &MainWindow::recaptureFinished);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(AppConfig::rate(5, 5, 5, 5));
@@ -112,6 +106,14 @@ void MainWindow::initialize()
     m_rightSplitter->setMinimumWidth(AppConfig::rate(460));
     layout->addWidget(m_mainSplitter, 1);
 
+    m_captionDock = new CaptionDock(m_captionWidget, m_mainSplitter, this);
+    connect(m_captionWidget, &CaptionWidget::showInDialog, this, [this]() {
+        m_captionDock->popOut();
+        setMinimumWidth(AppConfig::rate(1000));
+    });
+    connect(m_captionWidget, &CaptionWidget::closeInDialog, m_captionDock, &CaptionDock::dockBack);
+    connect(m_captionDock, &CaptionDock::docked, this, [this]() { showCaptionWidget(true); });
+
     for (QWidget* panel : QList<QWidget*>{m_captionWidget, m_imagesWidget, m_videoPlayWidget, m_previewWidget,
                                           m_titleBar}) {
         panel->installEventFilter(this);
@@ -122,7 +124,6 @@ void MainWindow::initialize()
     connect(GlobalManager::instance(), &GlobalManager::globalEvent, this, &MainWindow::globalEventHandle);
     connect(DownloadManager::instance(), &DownloadManager::downloadLastVersionStateChanged, this,
             &MainWindow::downloadLastVersionStatus);
-    connect(HttpManager::instance(), &HttpManager::requestError, this, &MainWindow::httpRequestErrorHandle);
 
     GlobalManager* global = GlobalManager::instance();
     if (Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString().isEmpty()) {
@@ -149,7 +150,6 @@ void MainWindow::initVideoPlayWidget()
 {
     m_videoPlayWidget = new VideoPlayWidget(this);
     connect(m_videoPlayWidget, &VideoPlayWidget::dragFileSignal, this, &MainWindow::openMediaFile);
-    connect(m_videoPlayWidget, &VideoPlayWidget::captionEditSignal, this, &MainWindow::captionEditHandle);
     connect(m_videoPlayWidget, &VideoPlayWidget::playerTimePos, this, [this](double seconds) {
         m_captionWidget->changeCaptionPlayByTime(seconds);
     });
@@ -167,13 +167,7 @@ void MainWindow::initImagesWidget()
     connect(m_imagesWidget, &ImagesWidget::showRegisterGuide, this, [this]() {
         RegisterGuideDialog::showAfterExport(this, [this]() { m_imagesWidget->registerGuideClosedHandle(); });
     });
-    connect(m_imagesWidget, &ImagesWidget::exportFinishedSignal, this,
-            [this](const QStringList& files, const QStringList& errors) {
-                Q_UNUSED(files)
-                if (!errors.isEmpty()) {
-                    showMessage(tr("Some pictures were not saved"), errors.join(QLatin1Char('\n')));
-                }
-            });
+    connect(m_imagesWidget, &ImagesWidget::exportFinishedSignal, this, &MainWindow::exportFinishedHandle);
 }
 
 void MainWindow::initPreviewWidget()
@@ -182,13 +176,15 @@ void MainWindow::initPreviewWidget()
     connect(m_previewWidget, &PreviewWidget::showRegisterGuide, this, [this]() {
         RegisterGuideDialog::showAfterExport(this, [this]() { m_previewWidget->registerGuideClosedHandle(); });
     });
-    connect(m_previewWidget, &PreviewWidget::exportFinishedSignal, this,
-            [this](const QStringList& files, const QStringList& errors) {
-                Q_UNUSED(files)
-                if (!errors.isEmpty()) {
-                    showMessage(tr("The picture was not saved"), errors.join(QLatin1Char('\n')));
-                }
-            });
+    connect(m_previewWidget, &PreviewWidget::exportFinishedSignal, this, &MainWindow::exportFinishedHandle);
+}
+
+void MainWindow::exportFinishedHandle(const QStringList& files, const QStringList& errors)
+{
+    // One message for every failure of an export, from either panel.
+    if (!errors.isEmpty()) {
+        showMessage(ImageExporter::summary(files, errors), errors.join(QLatin1Char('\n')));
+    }
 }
 
 void MainWindow::initCaptionWidget()
@@ -211,72 +207,17 @@ void MainWindow::initCaptionWidget()
     connect(m_captionWidget, &CaptionWidget::captureSelectSignal, this, [this](int) {
         m_videoPlayWidget->getControlButton(VideoPlayWidget::ButtonCaptureSelected)->click();
     });
-    connect(m_captionWidget, &CaptionWidget::autoCaptionSignal, this, &MainWindow::autoCaptionHandle);
-    connect(m_captionWidget, &CaptionWidget::captionTextChangedSignal, this, &MainWindow::regenerateCaptions);
-    connect(m_captionWidget, &CaptionWidget::showInDialog, this, [this]() { popupCaptionWidget(true); });
-    connect(m_captionWidget, &CaptionWidget::closeInDialog, this, [this]() { popupCaptionWidget(false); });
 }
 
 void MainWindow::initMenu()
 {
-    m_menu = new QMenu(this);
-    m_menu->setObjectName(QStringLiteral("main_menu"));
-    auto addAction = [this](int type) {
-        QAction* action = m_menu->addAction(QString());
-        connect(action, &QAction::triggered, this, [this, type]() { menuTapByType(type); });
-        m_menuActions.insert(type, action);
-        return action;
-    };
-    addAction(MenuOpenVideo)->setShortcut(QKeySequence::Open);
-    addAction(MenuAddSubtitle);
-    addAction(MenuCaptionPanel)->setCheckable(true);
-    m_menu->addSeparator();
-    addAction(MenuOutputFolder);
-
-    m_formatMenu = m_menu->addMenu(QString());
-    m_formatGroup = new QActionGroup(this);
-    for (const QString& format : {AppConfig::FORMAT_PNG, AppConfig::FORMAT_JPG, AppConfig::FORMAT_WEBP}) {
-        QAction* action = m_formatMenu->addAction(format);
-        action->setCheckable(true);
-        action->setData(format);
-        m_formatGroup->addAction(action);
-        connect(action, &QAction::triggered, this, [format]() {
-            GlobalManager::instance()->saveSettings(AppConfig::FILE_EXTENSION, format);
-        });
-    }
-
-    m_languageMenu = m_menu->addMenu(QString());
-    m_languageGroup = new QActionGroup(this);
-    const QMap<int, QString> names = TranslateManager::instance()->getLangNameMap();
-    for (auto it = names.constBegin(); it != names.constEnd(); ++it) {
-        QAction* action = m_languageMenu->addAction(it.value());
-        action->setCheckable(true);
-        action->setData(it.key());
-        m_languageGroup->addAction(action);
-        const int type = it.key();
-        connect(action, &QAction::triggered, this, [this, type]() { languageMenuTapByType(type); });
-    }
-    m_menu->addSeparator();
-    addAction(MenuCheckUpdate);
-    addAction(MenuRegister);
-    addAction(MenuLogFolder);
-    addAction(MenuAbout);
-    m_menu->addSeparator();
-    addAction(MenuQuit)->setShortcut(QKeySequence::Quit);
-    connect(m_menu, &QMenu::aboutToShow, this, [this]() {
-        const QString format
-            = Settings::instance()->value(AppConfig::FILE_EXTENSION).toString();
-        for (QAction* action : m_formatGroup->actions()) {
-            action->setChecked(action->data().toString() == format);
-        }
-        for (QAction* action : m_languageGroup->actions()) {
-            action->setChecked(action->data().toInt() == TranslateManager::instance()->getLangType());
-        }
-        m_menuActions.value(MenuCaptionPanel)->setChecked(m_captionWidget->isVisible());
-        m_menuActions.value(MenuRegister)->setVisible(!GlobalManager::instance()->isRegister());
-    });
+    m_menu = new MainMenu(this);
+    connect(m_menu, &MainMenu::menuTapped, this, &MainWindow::menuTapByType);
+    connect(m_menu, &MainMenu::languageTapped, this, &MainWindow::languageMenuTapByType);
+    connect(m_menu, &QMenu::aboutToShow, this,
+            [this]() { m_menu->action(MainMenu::MenuCaptionPanel)->setChecked(m_captionWidget->isVisible()); });
     // The window-wide shortcuts of the menu work while it is closed.
-    addActions({m_menuActions.value(MenuOpenVideo), m_menuActions.value(MenuQuit)});
+    addActions({m_menu->action(MainMenu::MenuOpenVideo), m_menu->action(MainMenu::MenuQuit)});
 }
 
 void MainWindow::initTopBarMenu()
@@ -293,31 +234,14 @@ void MainWindow::initConfig()
 
 QMap<int, QString> MainWindow::getMenuTextMap() const
 {
-    return {
-        {MenuOpenVideo, tr("Open video...")},
-        {MenuAddSubtitle, tr("Add local subtitle...")},
-        {MenuCaptionPanel, tr("Caption panel")},
-        {MenuOutputFolder, tr("Output folder...")},
-        {MenuCheckUpdate, tr("Check for updates")},
-        {MenuRegister, tr("Register...")},
-        {MenuAbout, tr("About Glimmer")},
-        {MenuLogFolder, tr("Open log folder")},
-        {MenuQuit, tr("Quit")},
-    };
+    return MainMenu::texts();
 }
 
 void MainWindow::retranslate()
 {
-    const QMap<int, QString> texts = getMenuTextMap();
-    for (auto it = m_menuActions.constBegin(); it != m_menuActions.constEnd(); ++it) {
-        it.value()->setText(texts.value(it.key()));
-    }
-    m_formatMenu->setTitle(tr("Output format"));
-    m_languageMenu->setTitle(tr("Language"));
+    m_menu->retranslate();
     m_loadingDialog->setWindowTitle(AppConfig::APP_NAME);
-    if (m_captionDialog) {
-        m_captionDialog->setWindowTitle(tr("Captions"));
-    }
+    m_captionDock->retranslate();
 }
 
 void MainWindow::startUp(const QStringList& arguments)
@@ -365,54 +289,22 @@ void MainWindow::languageMenuTapByType(int type)
 
 void MainWindow::menuTapByType(int type)
 {
-    GlobalManager* global = GlobalManager::instance();
     switch (type) {
-    case MenuOpenVideo:
+    case MainMenu::MenuOpenVideo:
         m_videoPlayWidget->loadFile();
         break;
-    case MenuAddSubtitle:
+    case MainMenu::MenuAddSubtitle:
         addLocalSubtitle();
         break;
-    case MenuCaptionPanel:
+    case MainMenu::MenuCaptionPanel:
         showCaptionWidget(!m_captionWidget->isVisible());
         break;
-    case MenuOutputFolder: {
-        const QString current = Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString();
-        const QString dir = QFileDialog::getExistingDirectory(this, tr("Choose the output folder"), current);
-        if (!dir.isEmpty()) {
-            global->saveSettings(AppConfig::FILE_SAVE_PATH, dir);
-        }
-        break;
-    }
-    case MenuCheckUpdate: {
-        m_updateAskedByUser = true;
-        auto* dialog = new CheckUpdateDialog(this);
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->show();
-        dialog->checkForUpdate();
-        break;
-    }
-    case MenuRegister: {
-        auto* dialog = new RegisterDialog(this);
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->open();
-        break;
-    }
-    case MenuAbout:
-        if (!m_aboutDialog) {
-            m_aboutDialog = new AboutDialog(this);
-            m_aboutDialog->setAttribute(Qt::WA_DeleteOnClose);
-        }
-        m_aboutDialog->show();
-        m_aboutDialog->raise();
-        break;
-    case MenuLogFolder:
-        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(global->getLogFilePath()).absolutePath()));
-        break;
-    case MenuQuit:
+    case MainMenu::MenuQuit:
         close();
         break;
     default:
+        // Dialogs of their own: output folder, updates, registration, About, logs.
+        m_menu->openDialog(type);
         break;
     }
 }
@@ -421,13 +313,13 @@ void MainWindow::titleBarButtonClickedHandle(int type)
 {
     switch (type) {
     case TitleBar::OpenVideo:
-        m_videoPlayWidget->loadFile();
+        menuTapByType(MainMenu::MenuOpenVideo);
         break;
     case TitleBar::Caption:
-        showCaptionWidget(!m_captionWidget->isVisible());
+        menuTapByType(MainMenu::MenuCaptionPanel);
         break;
     case TitleBar::Register:
-        menuTapByType(MenuRegister);
+        menuTapByType(MainMenu::MenuRegister);
         break;
     case TitleBar::Minimize:
         showMinimized();
@@ -461,9 +353,8 @@ void MainWindow::downloadLastVersionStatus(DownloadManager::DownloadState state,
 
 void MainWindow::showCaptionWidget(bool show)
 {
-    if (m_captionDialog && m_captionDialog->isVisible()) {
+    if (m_captionDock->raiseIfPoppedOut()) {
         // Popped out: the caption panel lives in its own window.
-        m_captionDialog->raise();
         return;
     }
     m_captionWidget->setVisible(show);
@@ -478,33 +369,6 @@ void MainWindow::showCaptionWidget(bool show)
         }
     } else {
         setMinimumWidth(AppConfig::rate(1000) + m_captionWidget->width());
-    }
-}
-
-void MainWindow::popupCaptionWidget(bool popup)
-{
-    if (popup) {
-        if (!m_captionDialog) {
-            m_captionDialog = new QDialog(this, Qt::Window | Qt::WindowCloseButtonHint);
-            m_captionDialog->setObjectName(QStringLiteral("caption_dialog"));
-            m_captionDialog->setWindowTitle(tr("Captions"));
-            auto* layout = new QVBoxLayout(m_captionDialog);
-            layout->setContentsMargins(0, 0, 0, 0);
-            connect(m_captionDialog, &QDialog::finished, this, [this](int) { popupCaptionWidget(false); });
-        }
-        const QSize size = m_captionWidget->size();
-        m_captionWidget->setParent(m_captionDialog);
-        m_captionDialog->layout()->addWidget(m_captionWidget);
-        m_captionWidget->show();
-        m_captionDialog->resize(size.width(), qMax(size.height(), AppConfig::rate(500)));
-        m_captionDialog->show();
-        setMinimumWidth(AppConfig::rate(1000));
-    } else if (m_captionDialog && m_captionWidget->parentWidget() == m_captionDialog) {
-        m_captionDialog->layout()->removeWidget(m_captionWidget);
-        m_mainSplitter->insertWidget(0, m_captionWidget);
-        m_mainSplitter->setCollapsible(0, false);
-        m_captionDialog->hide();
-        showCaptionWidget(true);
     }
 }
 
@@ -551,9 +415,7 @@ void MainWindow::quitAppFinishEvent()
 {
     m_previewWidget->quitAppFinishEvent();
     m_imagesWidget->quitAppFinishEvent();
-    if (m_captionDialog) {
-        m_captionDialog->close();
-    }
+    m_captionDock->close();
     m_captionWidget->close();
 }
 
@@ -572,22 +434,7 @@ void MainWindow::globalEventHandle(QString eventName, QVariant value)
         m_previewWidget->initScaleProperty();
     }
     if (eventName == AppConfig::TASK_ID) {
-        const QByteArray body = value.toByteArray();
-        const QJsonObject answer = QJsonDocument::fromJson(body).object();
-        const QString state = answer.value(QStringLiteral("state")).toString();
-        if (state == QStringLiteral("failed") || (!body.isEmpty() && answer.isEmpty())) {
-            const QString message = answer.value(QStringLiteral("message")).toString();
-            aiCaptionFailed(message.isEmpty() ? tr("The speech service gave an answer that cannot be read.")
-                                              : message);
-        } else {
-            m_aiCaptionRunning = false;
-            captions->createCaptions(body, true);
-            if (captions->getCaptions().isEmpty()) {
-                showMessage(tr("No speech found"),
-                            tr("No words were recognised in this video's sound track. Check the caption "
-                               "language, or add a subtitle file instead."));
-            }
-        }
+        m_flows->autoCaptions()->answerArrived(value.toByteArray());
     }
     if (eventName == AppConfig::TIME_POS) {
         const double seconds = value.toInt() / 1000.0;
@@ -602,22 +449,15 @@ void MainWindow::globalEventHandle(QString eventName, QVariant value)
         qDebug() << "video_to_audio_start";
     }
     if (eventName == AppConfig::VIDEO_TO_AUDIO_STOP) {
-        const QString audio = captions->getAudioFilePath();
-        if (QFileInfo(audio).size() <= 0) {
-            aiCaptionFailed(tr("The sound track could not be extracted from the video. It may have no "
-                               "audio, or ffmpeg is missing."));
-        } else {
-            Language::LanguageItem* item = captions->getCurrentLangItem();
-            HttpManager::instance()->loadCaptions(audio, item ? item->code : QString());
-        }
+        m_flows->autoCaptions()->audioExtracted();
     }
     if (eventName == AppConfig::CHANGE_CAPTION) {
-        m_captureController->setEditedCaption(value.canConvert<CaptionInfo*>() ? value.value<CaptionInfo*>()
+        m_flows->capture()->setEditedCaption(value.canConvert<CaptionInfo*>() ? value.value<CaptionInfo*>()
                                                                                : nullptr);
     }
     if (eventName == AppConfig::UPDATE_CAPTION_NEW) {
         CaptionInfo* caption = value.canConvert<CaptionInfo*>() ? value.value<CaptionInfo*>() : nullptr;
-        m_captureController->setEditedCaption(caption);
+        m_flows->capture()->setEditedCaption(caption);
         captions->changeCaptionNew(caption, false);
     }
     if (eventName == AppConfig::CREATE_CAPTION_COMPLETE) {
@@ -641,8 +481,8 @@ void MainWindow::globalEventHandle(QString eventName, QVariant value)
     if (eventName == AppConfig::STOP_AI_CAPTION) {
         GlobalManager::instance()->stopConvert();
         HttpManager::instance()->stopUploadFile();
-        m_captureController->cancel();
-        m_aiCaptionRunning = false;
+        m_flows->capture()->cancel();
+        m_flows->autoCaptions()->cancel();
     }
     if (eventName == AppConfig::REMOVE_CAPTION) {
         m_videoPlayWidget->removeCaption(0);
@@ -678,9 +518,7 @@ void MainWindow::openMediaFile(const QString& path)
 
 void MainWindow::addLocalSubtitle()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open local subtitle"), QString(),
-                                                      QStringLiteral("%1  (*.ass *.srt)").arg(tr("Subtitle Files")));
-    loadCaption(path);
+    loadCaption(m_flows->captionFiles()->chooseFile());
     m_captionWidget->updateSelectAllText();
 }
 
@@ -690,120 +528,20 @@ void MainWindow::loadCaption(const QString& path)
         return;
     }
     showCaptionWidget(true);
-    CaptionManager* captions = CaptionManager::instance();
-    QString assPath = path;
-    if (QFileInfo(path).suffix().toLower() == QStringLiteral("srt")) {
-        assPath = GlobalManager::instance()->srtToAss(path);
-    }
-    const int result = assPath.isEmpty() ? 1 : captions->loadCaptionFile(assPath);
-    m_captionWidget->createCaption(QByteArray());
-    if (result != 0 || captions->getCaptions().isEmpty()) {
-        QString reason = captions->lastError();
-        if (assPath.isEmpty() && reason.isEmpty()) {
-            reason = tr("The subtitle file could not be converted.");
-        }
-        showMessage(tr("No captions loaded"),
-                    tr("%1 holds no captions that can be shown.").arg(QFileInfo(path).fileName())
-                        + (reason.isEmpty() ? QString() : QStringLiteral("\n\n") + reason));
-        if (assPath.isEmpty()) {
-            return;
-        }
-    }
-    m_videoPlayWidget->loadSubTitleFile(assPath);
+    m_flows->captionFiles()->load(path);
 }
 
-void MainWindow::regenerateCaptions(CaptionInfo* info)
+CaptureController* MainWindow::captureController() const
 {
-    CaptionManager* captions = CaptionManager::instance();
-    if (captions->getCaptions().isEmpty()) {
-        return;
-    }
-    CaptionInfo* target = info ? info : captions->getCaptions().constFirst();
-    if (info) {
-        // A text edit from the list: the re-capture follows the single-caption path.
-        m_captureController->captionEdited(info, false);
-    }
-    m_videoPlayWidget->pause();
-    captions->changeCaptionNew(target, false);
-    m_captionWidget->updateCaptionItem(info);
+    return m_flows->capture();
 }
 
 void MainWindow::showMessage(const QString& title, const QString& message)
 {
-    qDebug() << "message:" << title << message;
-    m_messageDialog->showMessage(title, message);
+    m_flows->showMessage(title, message);
 }
 
 // ---------------------------------------------------------------- automatic captions
 
-void MainWindow::autoCaptionHandle(int languageKey)
-{
-    CaptionManager* captions = CaptionManager::instance();
-    if (!m_videoPlayWidget->isLoadFile()) {
-        showMessage(tr("No video"), tr("Open a video first, then generate its captions."));
-        return;
-    }
-    if (m_aiCaptionRunning) {
-        return;
-    }
-    captions->setCurrentLangItem(captions->getLangItemByKey(languageKey));
-    m_aiCaptionRunning = true;
-    m_loadingDialog->showWithText(tr("Generating captions..."));
-    GlobalManager::instance()->videoToAudio(GlobalManager::instance()->getCurrentFile().absoluteFilePath());
-}
-
-void MainWindow::aiCaptionFailed(const QString& message)
-{
-    m_aiCaptionRunning = false;
-    m_loadingDialog->hide();
-    showMessage(tr("Automatic captions failed"), message);
-}
-
-void MainWindow::httpRequestErrorHandle(const QString& key, const QJsonObject& object, const QByteArray& data)
-{
-    Q_UNUSED(data)
-    if (key != AppConfig::TASK_ID || !m_aiCaptionRunning) {
-        return;
-    }
-    // The client words every failure for the user: the service's own answer
-    // when it gave one, otherwise what went wrong on the way.
-    const QString message = object.value(QStringLiteral("message")).toString();
-    aiCaptionFailed(message.isEmpty() ? tr("The speech service could not be reached.") : message);
-}
-
 // ---------------------------------------------------------------- capture
 
-void MainWindow::initCaptureController()
-{
-    m_captureController
-        = new CaptureController(new PlayerCaptureSource(m_videoPlayWidget), m_imagesWidget, this);
-    CaptureController* capture = m_captureController;
-    connect(m_videoPlayWidget, &VideoPlayWidget::captureNowRequested, capture, &CaptureController::captureNow);
-    connect(m_videoPlayWidget, &VideoPlayWidget::captureCheckedRequested, capture,
-            &CaptureController::startCaptureChecked);
-    connect(capture, &CaptureController::busy, m_loadingDialog, &LoadingDialog::showWithText);
-    connect(capture, &CaptureController::idle, m_loadingDialog, &QWidget::hide);
-    connect(capture, &CaptureController::failed, this, &MainWindow::showMessage);
-    connect(capture, &CaptureController::frameReplaced, m_previewWidget, &PreviewWidget::updateImageShow);
-    connect(capture, &CaptureController::recaptureFinished, this, &MainWindow::recaptureFinished);
-    connect(capture, &CaptureController::checkedPassFinished, this, [this](int skipped) {
-        m_captionWidget->changeCaptureString(tr("Capture checked"));
-        if (skipped > 0) {
-            showMessage(tr("Some captions were not captured"),
-                        tr("%n caption(s) start at or after the end of the video, or have no readable start "
-                           "time, and were skipped.",
-                           nullptr, skipped));
-        }
-        emit captureSelectFinished();
-    });
-}
-
-void MainWindow::captionEditHandle(CaptionInfo* edit, bool isAll)
-{
-    if (!m_videoPlayWidget->isLoadFile()) {
-        return;
-    }
-    m_captureController->captionEdited(edit, isAll);
-    CaptionManager::instance()->changeCaptionNew(edit, isAll);
-    m_captionWidget->updateCaptionItem(isAll ? nullptr : edit);
-}

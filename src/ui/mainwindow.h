@@ -13,7 +13,8 @@
 #include <QStringList>
 #include <QVariant>
 
-class AboutDialog;
+class CaptionDock;
+class MainMenu;
 class CaptionInfo;
 class CaptureController;
 class CaptionWidget;
@@ -22,7 +23,6 @@ class ImagesWidget;
 class LoadingDialog;
 class MessageDialog;
 class PreviewWidget;
-class QActionGroup;
 class QDialog;
 class QMenu;
 class QSplitter;
@@ -30,6 +30,7 @@ class QTimer;
 class QTranslator;
 class TitleBar;
 class VideoPlayWidget;
+class WindowFlows;
 
 // The application's single top-level window: creates and lays out the panels,
 // reacts to every event of the bus and runs the capture flows.
@@ -37,18 +38,6 @@ class MainWindow : public CFramelessWindow
 {
     Q_OBJECT
 public:
-    enum MenuType {
-        MenuOpenVideo = 0,
-        MenuAddSubtitle = 1,
-        MenuCaptionPanel = 2,
-        MenuOutputFolder = 3,
-        MenuCheckUpdate = 4,
-        MenuRegister = 5,
-        MenuAbout = 6,
-        MenuLogFolder = 7,
-        MenuQuit = 8,
-    };
-
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
@@ -71,7 +60,7 @@ public:
     CaptionWidget* captionWidget() const { return m_captionWidget; }
     MessageDialog* messageDialog() const { return m_messageDialog; }
     LoadingDialog* loadingDialog() const { return m_loadingDialog; }
-    CaptureController* captureController() const { return m_captureController; }
+    CaptureController* captureController() const;
 
 public slots:
     void globalEventHandle(QString eventName, QVariant value);
@@ -103,19 +92,12 @@ private:
     void initConfig();
     void retranslate();
 
-    void initCaptureController();
-    void captionEditHandle(CaptionInfo* edit, bool isAll);
 
-    // Automatic captions
-    void autoCaptionHandle(int languageKey);
-    void aiCaptionFailed(const QString& message);
-    void httpRequestErrorHandle(const QString& key, const QJsonObject& object, const QByteArray& data);
+    void exportFinishedHandle(const QStringList& files, const QStringList& errors);
 
     void addLocalSubtitle();
     void openMediaFile(const QString& path);
-    void regenerateCaptions(CaptionInfo* info);
     void showMessage(const QString& title, const QString& message);
-    void popupCaptionWidget(bool popup);
 
     QTranslator* m_translator = nullptr;
     TitleBar* m_titleBar = nullptr;
@@ -127,20 +109,12 @@ private:
     LoadingDialog* m_loadingDialog = nullptr;
     QSplitter* m_mainSplitter = nullptr;
     QSplitter* m_rightSplitter = nullptr;
-    QDialog* m_captionDialog = nullptr;
-    QPointer<AboutDialog> m_aboutDialog;
+    CaptionDock* m_captionDock = nullptr;
 
-    QMenu* m_menu = nullptr;
-    QMenu* m_formatMenu = nullptr;
-    QMenu* m_languageMenu = nullptr;
-    QActionGroup* m_formatGroup = nullptr;
-    QActionGroup* m_languageGroup = nullptr;
-    QMap<int, QAction*> m_menuActions;
+    MainMenu* m_menu = nullptr;
+    WindowFlows* m_flows = nullptr;
 
-    CaptureController* m_captureController = nullptr;
 
-    bool m_aiCaptionRunning = false;
-    bool m_updateAskedByUser = false;
 };
 
 #endif // MAINWINDOW_H

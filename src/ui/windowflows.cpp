@@ -1,0 +1,90 @@
+#include "windowflows.h"
+
+#include "autocaptionflow.h"
+#include "captioninfo.h"
+#include "captioneditor.h"
+#include "captionfileflow.h"
+#include "captionwidget.h"
+#include "capturecontroller.h"
+#include "globalmanager.h"
+#include "imageitem.h"
+#include "loadingdialog.h"
+#include "messagedialog.h"
+#include "playercapturesource.h"
+#include "previewwidget.h"
+#include "videoplaywidget.h"
+
+#include <QDebug>
+
+WindowFlows::WindowFlows(const Parts& parts)
+    : QObject(parts.window)
+    , m_parts(parts)
+{
+    initCapture();
+    initAutoCaptions();
+    initCaptionFiles();
+}
+
+void WindowFlows::showMessage(const QString& title, const QString& message)
+{
+    qDebug() << "message:" << title << message;
+    m_parts.messages->showMessage(title, message);
+}
+
+void WindowFlows::initCapture()
+{
+    VideoPlayWidget* player = m_parts.player;
+    auto* source = new PlayerCaptureSource(player);
+    m_capture = new CaptureController(source, m_parts.strip, this);
+    m_editor = new CaptionEditor(source, m_capture, this);
+    connect(player, &VideoPlayWidget::captionEditSignal, m_editor, &CaptionEditor::styleEdited);
+    connect(m_parts.captions, &CaptionWidget::captionTextChangedSignal, m_editor, &CaptionEditor::textEdited);
+    connect(m_editor, &CaptionEditor::captionChanged, m_parts.captions, &CaptionWidget::updateCaptionItem);
+
+    connect(player, &VideoPlayWidget::captureNowRequested, m_capture, &CaptureController::captureNow);
+    connect(player, &VideoPlayWidget::captureCheckedRequested, m_capture, &CaptureController::startCaptureChecked);
+    connect(m_capture, &CaptureController::busy, m_parts.loading, &LoadingDialog::showWithText);
+    connect(m_capture, &CaptureController::idle, m_parts.loading, &QWidget::hide);
+    connect(m_capture, &CaptureController::failed, this, &WindowFlows::showMessage);
+    connect(m_capture, &CaptureController::frameReplaced, m_parts.preview, &PreviewWidget::updateImageShow);
+    connect(m_capture, &CaptureController::recaptureFinished, this, &WindowFlows::recaptureFinished);
+    connect(m_capture, &CaptureController::checkedPassFinished, this, [this](int skipped) {
+        m_parts.captions->changeCaptureString(tr("Capture checked"));
+        if (skipped > 0) {
+            showMessage(tr("Some captions were not captured"),
+                        tr("%n caption(s) start at or after the end of the video, or have no readable start "
+                           "time, and were skipped.",
+                           nullptr, skipped));
+        }
+        emit captureCheckedFinished();
+    });
+}
+
+void WindowFlows::initAutoCaptions()
+{
+    m_autoCaptions = new AutoCaptionFlow(this);
+    connect(m_autoCaptions, &AutoCaptionFlow::busy, m_parts.loading, &LoadingDialog::showWithText);
+    connect(m_autoCaptions, &AutoCaptionFlow::failed, this, [this](const QString& title, const QString& message) {
+        m_parts.loading->hide();
+        showMessage(title, message);
+    });
+    connect(m_parts.captions, &CaptionWidget::autoCaptionSignal, this, [this](int languageKey) {
+        if (!m_parts.player->isLoadFile()) {
+            showMessage(tr("No video"), tr("Open a video first, then generate its captions."));
+            return;
+        }
+        m_autoCaptions->start(languageKey, GlobalManager::instance()->getCurrentFile().absoluteFilePath());
+    });
+}
+
+void WindowFlows::initCaptionFiles()
+{
+    m_captionFiles = new CaptionFileFlow(m_parts.window);
+    connect(m_captionFiles, &CaptionFileFlow::finished, this, [this](const QString& assPath, const QString& problem) {
+        m_parts.captions->createCaption(QByteArray());
+        if (!problem.isEmpty()) {
+            showMessage(tr("No captions loaded"), problem);
+        }
+        m_parts.player->loadSubTitleFile(assPath);
+    });
+}

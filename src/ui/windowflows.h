@@ -1,0 +1,64 @@
+#ifndef WINDOWFLOWS_H
+#define WINDOWFLOWS_H
+
+#include <QObject>
+#include <QString>
+
+class AutoCaptionFlow;
+class CaptionEditor;
+class CaptionFileFlow;
+class CaptionWidget;
+class CaptureController;
+class ImagesWidget;
+class LoadingDialog;
+class MessageDialog;
+class PreviewWidget;
+class VideoPlayWidget;
+class QWidget;
+
+// The user's workflows that span several panels: capturing, editing captions,
+// automatic captions and local subtitle files. Each flow is a class of its
+// own; this one makes them and connects them to the panels and to the
+// window's busy and message dialogs.
+class WindowFlows : public QObject
+{
+    Q_OBJECT
+public:
+    struct Parts {
+        QWidget* window;
+        VideoPlayWidget* player;
+        ImagesWidget* strip;
+        PreviewWidget* preview;
+        CaptionWidget* captions;
+        LoadingDialog* loading;
+        MessageDialog* messages;
+    };
+
+    explicit WindowFlows(const Parts& parts);
+
+    CaptureController* capture() const { return m_capture; }
+    AutoCaptionFlow* autoCaptions() const { return m_autoCaptions; }
+    CaptionFileFlow* captionFiles() const { return m_captionFiles; }
+    CaptionEditor* editor() const { return m_editor; }
+
+    void showMessage(const QString& title, const QString& message);
+
+signals:
+    // Every ticked caption was captured.
+    void captureCheckedFinished();
+    // The frames were captured again after a style edit.
+    void recaptureFinished();
+
+private:
+    void initCapture();
+    void initAutoCaptions();
+    void initCaptionFiles();
+
+    Parts m_parts;
+    CaptureController* m_capture = nullptr;
+    CaptionEditor* m_editor = nullptr;
+    AutoCaptionFlow* m_autoCaptions = nullptr;
+    CaptionFileFlow* m_captionFiles = nullptr;
+};
+
+#endif // WINDOWFLOWS_H
