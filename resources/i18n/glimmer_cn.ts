@@ -569,22 +569,6 @@
         <translation>无法打开 %1：%2</translation>
     </message>
     <message>
-        <source>No video</source>
-        <translation>没有视频</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>请先打开视频，再在当前时间新建字幕。</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>此处无法添加字幕</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>当前时间已有字幕，请移到没有字幕的时间点。</translation>
-    </message>
-    <message>
         <source>The video cannot be opened</source>
         <translation>无法打开该视频</translation>
     </message>
@@ -917,6 +901,18 @@
         <translation>
             <numerusform>有 %n 条字幕的开始时间在视频结束处或之后，或无法读取，已跳过。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>请先打开视频，再在当前时间新建字幕。</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>此处无法添加字幕</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>当前时间已有字幕，请移到没有字幕的时间点。</translation>
     </message>
 </context>
 <context>

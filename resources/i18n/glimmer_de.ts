@@ -571,22 +571,6 @@
         <translation>%1 konnte nicht geöffnet werden: %2</translation>
     </message>
     <message>
-        <source>No video</source>
-        <translation>Kein Video</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Öffnen Sie zuerst ein Video und erstellen Sie dann einen Untertitel an der aktuellen Stelle.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>Kein Platz für einen Untertitel</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>An der aktuellen Stelle gibt es bereits einen Untertitel. Gehen Sie zu einer Stelle ohne Untertitel.</translation>
-    </message>
-    <message>
         <source>The video cannot be opened</source>
         <translation>Das Video kann nicht geöffnet werden</translation>
     </message>
@@ -920,6 +904,18 @@
             <numerusform>%n Untertitel beginnt am oder nach dem Ende des Videos oder hat keine lesbare Startzeit und wurde übersprungen.</numerusform>
             <numerusform>%n Untertitel beginnen am oder nach dem Ende des Videos oder haben keine lesbare Startzeit und wurden übersprungen.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Öffnen Sie zuerst ein Video und erstellen Sie dann einen Untertitel an der aktuellen Stelle.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>Kein Platz für einen Untertitel</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>An der aktuellen Stelle gibt es bereits einen Untertitel. Gehen Sie zu einer Stelle ohne Untertitel.</translation>
     </message>
 </context>
 <context>

@@ -571,22 +571,6 @@
         <translation>%1 could not be opened: %2</translation>
     </message>
     <message>
-        <source>No video</source>
-        <translation>No video</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Open a video first, then create a caption at the current time.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>No room for a caption</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>A caption already covers the current time. Move to a moment without a caption.</translation>
-    </message>
-    <message>
         <source>The video cannot be opened</source>
         <translation>The video cannot be opened</translation>
     </message>
@@ -920,6 +904,18 @@
             <numerusform>%n caption starts at or after the end of the video, or has no readable start time, and was skipped.</numerusform>
             <numerusform>%n captions start at or after the end of the video, or have no readable start time, and were skipped.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Open a video first, then create a caption at the current time.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>No room for a caption</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>A caption already covers the current time. Move to a moment without a caption.</translation>
     </message>
 </context>
 <context>

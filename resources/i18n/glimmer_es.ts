@@ -571,22 +571,6 @@
         <translation>No se ha podido abrir %1: %2</translation>
     </message>
     <message>
-        <source>No video</source>
-        <translation>No hay vídeo</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Abra primero un vídeo y luego cree un subtítulo en el momento actual.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>No hay sitio para un subtítulo</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>Ya hay un subtítulo en el momento actual. Vaya a un momento sin subtítulo.</translation>
-    </message>
-    <message>
         <source>The video cannot be opened</source>
         <translation>No se puede abrir el vídeo</translation>
     </message>
@@ -920,6 +904,18 @@
             <numerusform>%n subtítulo empieza al final del vídeo o después, o no tiene una hora de inicio legible, y se ha omitido.</numerusform>
             <numerusform>%n subtítulos empiezan al final del vídeo o después, o no tienen una hora de inicio legible, y se han omitido.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Abra primero un vídeo y luego cree un subtítulo en el momento actual.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>No hay sitio para un subtítulo</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>Ya hay un subtítulo en el momento actual. Vaya a un momento sin subtítulo.</translation>
     </message>
 </context>
 <context>

@@ -571,22 +571,6 @@
         <translation>Impossible d’ouvrir %1 : %2</translation>
     </message>
     <message>
-        <source>No video</source>
-        <translation>Aucune vidéo</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Ouvrez d’abord une vidéo, puis créez un sous-titre à l’instant actuel.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>Pas de place pour un sous-titre</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>Un sous-titre couvre déjà l’instant actuel. Placez-vous à un moment sans sous-titre.</translation>
-    </message>
-    <message>
         <source>The video cannot be opened</source>
         <translation>Impossible d’ouvrir la vidéo</translation>
     </message>
@@ -920,6 +904,18 @@
             <numerusform>%n sous-titre commence à la fin de la vidéo ou après, ou n’a pas d’heure de début lisible, et a été ignoré.</numerusform>
             <numerusform>%n sous-titres commencent à la fin de la vidéo ou après, ou n’ont pas d’heure de début lisible, et ont été ignorés.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Ouvrez d’abord une vidéo, puis créez un sous-titre à l’instant actuel.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>Pas de place pour un sous-titre</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>Un sous-titre couvre déjà l’instant actuel. Placez-vous à un moment sans sous-titre.</translation>
     </message>
 </context>
 <context>

@@ -569,22 +569,6 @@
         <translation>無法開啟 %1：%2</translation>
     </message>
     <message>
-        <source>No video</source>
-        <translation>沒有影片</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>請先開啟影片，再於目前時間新增字幕。</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>此處無法新增字幕</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>目前時間已有字幕，請移到沒有字幕的時間點。</translation>
-    </message>
-    <message>
         <source>The video cannot be opened</source>
         <translation>無法開啟此影片</translation>
     </message>
@@ -917,6 +901,18 @@
         <translation>
             <numerusform>有 %n 條字幕的開始時間在影片結束處或之後，或無法讀取，已略過。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>請先開啟影片，再於目前時間新增字幕。</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>此處無法新增字幕</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>目前時間已有字幕，請移到沒有字幕的時間點。</translation>
     </message>
 </context>
 <context>

@@ -571,22 +571,6 @@
         <translation>Impossibile aprire %1: %2</translation>
     </message>
     <message>
-        <source>No video</source>
-        <translation>Nessun video</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Apri prima un video, poi crea un sottotitolo nel punto attuale.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>Non c’è spazio per un sottotitolo</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>Nel punto attuale c’è già un sottotitolo. Spostati in un punto senza sottotitoli.</translation>
-    </message>
-    <message>
         <source>The video cannot be opened</source>
         <translation>Impossibile aprire il video</translation>
     </message>
@@ -920,6 +904,18 @@
             <numerusform>%n sottotitolo inizia alla fine del video o dopo, oppure non ha un orario di inizio leggibile, ed è stato saltato.</numerusform>
             <numerusform>%n sottotitoli iniziano alla fine del video o dopo, oppure non hanno un orario di inizio leggibile, e sono stati saltati.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Apri prima un video, poi crea un sottotitolo nel punto attuale.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>Non c’è spazio per un sottotitolo</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>Nel punto attuale c’è già un sottotitolo. Spostati in un punto senza sottotitoli.</translation>
     </message>
 </context>
 <context>

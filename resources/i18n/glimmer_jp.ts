@@ -569,22 +569,6 @@
         <translation>%1 を開けませんでした：%2</translation>
     </message>
     <message>
-        <source>No video</source>
-        <translation>動画がありません</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>先に動画を開いてから、現在の位置に字幕を作成してください。</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>ここには字幕を追加できません</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>現在の位置にはすでに字幕があります。字幕のない位置に移動してください。</translation>
-    </message>
-    <message>
         <source>The video cannot be opened</source>
         <translation>動画を開けません</translation>
     </message>
@@ -917,6 +901,18 @@
         <translation>
             <numerusform>%n 件の字幕は動画の終わり以降に始まるか、開始時刻を読み取れないため、スキップされました。</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>先に動画を開いてから、現在の位置に字幕を作成してください。</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>ここには字幕を追加できません</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>現在の位置にはすでに字幕があります。字幕のない位置に移動してください。</translation>
     </message>
 </context>
 <context>

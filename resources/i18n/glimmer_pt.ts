@@ -571,22 +571,6 @@
         <translation>Não foi possível abrir %1: %2</translation>
     </message>
     <message>
-        <source>No video</source>
-        <translation>Nenhum vídeo</translation>
-    </message>
-    <message>
-        <source>Open a video first, then create a caption at the current time.</source>
-        <translation>Abra um vídeo primeiro e depois crie uma legenda no momento atual.</translation>
-    </message>
-    <message>
-        <source>No room for a caption</source>
-        <translation>Não há espaço para uma legenda</translation>
-    </message>
-    <message>
-        <source>A caption already covers the current time. Move to a moment without a caption.</source>
-        <translation>Já existe uma legenda no momento atual. Vá para um momento sem legenda.</translation>
-    </message>
-    <message>
         <source>The video cannot be opened</source>
         <translation>Não é possível abrir o vídeo</translation>
     </message>
@@ -920,6 +904,18 @@
             <numerusform>%n legenda começa no fim do vídeo ou depois, ou não tem um início legível, e foi ignorada.</numerusform>
             <numerusform>%n legendas começam no fim do vídeo ou depois, ou não têm um início legível, e foram ignoradas.</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Open a video first, then create a caption at the current time.</source>
+        <translation>Abra um vídeo primeiro e depois crie uma legenda no momento atual.</translation>
+    </message>
+    <message>
+        <source>No room for a caption</source>
+        <translation>Não há espaço para uma legenda</translation>
+    </message>
+    <message>
+        <source>A caption already covers the current time. Move to a moment without a caption.</source>
+        <translation>Já existe uma legenda no momento atual. Vá para um momento sem legenda.</translation>
     </message>
 </context>
 <context>

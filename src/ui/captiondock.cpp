@@ -35,6 +35,7 @@ void CaptionDock::popOut()
     m_panel->show();
     m_dialog->resize(size.width(), qMax(size.height(), AppConfig::rate(500)));
     m_dialog->show();
+    m_window->setMinimumWidth(AppConfig::rate(1000));
 }
 
 void CaptionDock::dockBack()
@@ -47,6 +48,23 @@ void CaptionDock::dockBack()
     m_splitter->setCollapsible(0, false);
     m_dialog->hide();
     emit docked();
+}
+
+void CaptionDock::setShown(bool shown)
+{
+    if (raiseIfPoppedOut()) {
+        return;
+    }
+    m_panel->setVisible(shown);
+    emit shownChanged(shown);
+    if (!shown) {
+        m_window->setMinimumWidth(AppConfig::rate(1000));
+        if (!m_window->isMaximized()) {
+            m_window->resize(m_window->width() - m_panel->width(), m_window->height());
+        }
+    } else {
+        m_window->setMinimumWidth(AppConfig::rate(1000) + m_panel->width());
+    }
 }
 
 bool CaptionDock::raiseIfPoppedOut()

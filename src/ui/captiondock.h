@@ -16,6 +16,10 @@ public:
     CaptionDock(QWidget* panel, QSplitter* splitter, QWidget* window);
 
     bool isPoppedOut() const;
+    // Shows or hides the docked panel. The window narrows by the panel's
+    // width when it goes (unless maximised) and keeps room for it when it
+    // shows; a popped-out panel's window is only raised.
+    void setShown(bool shown);
     void popOut();
     void dockBack();
     // Raises the panel's own window; false when the panel is docked.
@@ -26,6 +30,7 @@ public:
 signals:
     // The panel is back in the main window.
     void docked();
+    void shownChanged(bool shown);
 
 private:
     QWidget* m_panel;

@@ -305,3 +305,18 @@ QString CheckUpdateDialog::dateText() const
 {
     return m_dateLabel->text();
 }
+
+void CheckUpdateDialog::offerAtStartUp(QWidget* parent, DownloadManager::DownloadState state, const QString& text,
+                                       const QByteArray& data)
+{
+    if (DownloadManager::tagOfStateText(text) != DownloadManager::TAG_START
+        || state != DownloadManager::DownloadFinished) {
+        return;
+    }
+    if (offersUpdate(data, GlobalManager::instance()->getAppVersion())) {
+        auto* dialog = new CheckUpdateDialog(parent);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->downloadLastVersionStatus(state, text, data);
+        dialog->show();
+    }
+}

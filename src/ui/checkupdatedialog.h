@@ -39,6 +39,10 @@ public:
     static bool isLatestVersion(const QString& running, const QString& latest);
     // Whether a version file body offers something newer than running.
     static bool offersUpdate(const QByteArray& body, const QString& running);
+    // The silent check at start-up: a dialog only when a newer version is
+    // published (a check from the menu has its own dialog).
+    static void offerAtStartUp(QWidget* parent, DownloadManager::DownloadState state, const QString& text,
+                               const QByteArray& data);
     // Rich text of the change list: every entry followed by a line break.
     static QString changeListHtml(const QJsonArray& changes);
 

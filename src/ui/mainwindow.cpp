@@ -1,7 +1,6 @@
 #include "mainwindow.h"
 
 #include "appconfig.h"
-#include "captioninfo.h"
 #include "captionmanager.h"
 #include "captiondock.h"
 #include "autocaptionflow.h"
@@ -11,15 +10,12 @@
 #include "checkupdatedialog.h"
 #include "globalmanager.h"
 #include "httpmanager.h"
-#include "imageexporter.h"
-#include "imageitem.h"
 #include "imageswidget.h"
 #include "loadingdialog.h"
 #include "mainmenu.h"
 #include "messagedialog.h"
 #include "mpvwidget.h"
 #include "previewwidget.h"
-#include "registerguidedialog.h"
 #include "settings.h"
 #include "titlebar.h"
 #include "translatemanager.h"
@@ -107,12 +103,15 @@ void MainWindow::initialize()
     layout->addWidget(m_mainSplitter, 1);
 
     m_captionDock = new CaptionDock(m_captionWidget, m_mainSplitter, this);
-    connect(m_captionWidget, &CaptionWidget::showInDialog, this, [this]() {
-        m_captionDock->popOut();
-        setMinimumWidth(AppConfig::rate(1000));
-    });
+    connect(m_captionWidget, &CaptionWidget::showInDialog, m_captionDock, &CaptionDock::popOut);
     connect(m_captionWidget, &CaptionWidget::closeInDialog, m_captionDock, &CaptionDock::dockBack);
     connect(m_captionDock, &CaptionDock::docked, this, [this]() { showCaptionWidget(true); });
+    connect(m_captionDock, &CaptionDock::shownChanged, this, [this](bool shown) {
+        if (auto* button = m_titleBar->button(TitleBar::Caption)) {
+            const QSignalBlocker blocker(button);
+            button->setChecked(shown);
+        }
+    });
 
     for (QWidget* panel : QList<QWidget*>{m_captionWidget, m_imagesWidget, m_videoPlayWidget, m_previewWidget,
                                           m_titleBar}) {
@@ -164,27 +163,11 @@ void MainWindow::initImagesWidget()
     m_imagesWidget = new ImagesWidget(this);
     // Room for the header row and one row of thumbnails with their scroll bar.
     m_imagesWidget->setMinimumHeight(AppConfig::rate(150));
-    connect(m_imagesWidget, &ImagesWidget::showRegisterGuide, this, [this]() {
-        RegisterGuideDialog::showAfterExport(this, [this]() { m_imagesWidget->registerGuideClosedHandle(); });
-    });
-    connect(m_imagesWidget, &ImagesWidget::exportFinishedSignal, this, &MainWindow::exportFinishedHandle);
 }
 
 void MainWindow::initPreviewWidget()
 {
     m_previewWidget = new PreviewWidget(nullptr);
-    connect(m_previewWidget, &PreviewWidget::showRegisterGuide, this, [this]() {
-        RegisterGuideDialog::showAfterExport(this, [this]() { m_previewWidget->registerGuideClosedHandle(); });
-    });
-    connect(m_previewWidget, &PreviewWidget::exportFinishedSignal, this, &MainWindow::exportFinishedHandle);
-}
-
-void MainWindow::exportFinishedHandle(const QStringList& files, const QStringList& errors)
-{
-    // One message for every failure of an export, from either panel.
-    if (!errors.isEmpty()) {
-        showMessage(ImageExporter::summary(files, errors), errors.join(QLatin1Char('\n')));
-    }
 }
 
 void MainWindow::initCaptionWidget()
@@ -193,19 +176,6 @@ void MainWindow::initCaptionWidget()
     connect(m_captionWidget, &CaptionWidget::loadLocalSubtitleSignal, this, &MainWindow::addLocalSubtitle);
     connect(m_captionWidget, &CaptionWidget::clearCaptionSignal, this, [this]() {
         GlobalManager::instance()->emitEvent(AppConfig::REMOVE_CAPTION, QString());
-    });
-    connect(m_captionWidget, &CaptionWidget::createCaptionSignal, this, [this]() {
-        if (!m_videoPlayWidget->isLoadFile()) {
-            showMessage(tr("No video"), tr("Open a video first, then create a caption at the current time."));
-            return;
-        }
-        if (!m_videoPlayWidget->insertCaptionAtCurrentTime()) {
-            showMessage(tr("No room for a caption"),
-                        tr("A caption already covers the current time. Move to a moment without a caption."));
-        }
-    });
-    connect(m_captionWidget, &CaptionWidget::captureSelectSignal, this, [this](int) {
-        m_videoPlayWidget->getControlButton(VideoPlayWidget::ButtonCaptureSelected)->click();
     });
 }
 
@@ -337,39 +307,12 @@ void MainWindow::titleBarButtonClickedHandle(int type)
 
 void MainWindow::downloadLastVersionStatus(DownloadManager::DownloadState state, QString text, QByteArray data)
 {
-    // The silent check at start-up offers an update only when there is one;
-    // a check from the menu has its own dialog.
-    if (DownloadManager::tagOfStateText(text) != DownloadManager::TAG_START
-        || state != DownloadManager::DownloadFinished) {
-        return;
-    }
-    if (CheckUpdateDialog::offersUpdate(data, GlobalManager::instance()->getAppVersion())) {
-        auto* dialog = new CheckUpdateDialog(this);
-        dialog->setAttribute(Qt::WA_DeleteOnClose);
-        dialog->downloadLastVersionStatus(state, text, data);
-        dialog->show();
-    }
+    CheckUpdateDialog::offerAtStartUp(this, state, text, data);
 }
 
 void MainWindow::showCaptionWidget(bool show)
 {
-    if (m_captionDock->raiseIfPoppedOut()) {
-        // Popped out: the caption panel lives in its own window.
-        return;
-    }
-    m_captionWidget->setVisible(show);
-    if (auto* button = m_titleBar->button(TitleBar::Caption)) {
-        const QSignalBlocker blocker(button);
-        button->setChecked(show);
-    }
-    if (!show) {
-        setMinimumWidth(AppConfig::rate(1000));
-        if (!isMaximized()) {
-            resize(width() - m_captionWidget->width(), height());
-        }
-    } else {
-        setMinimumWidth(AppConfig::rate(1000) + m_captionWidget->width());
-    }
+    m_captionDock->setShown(show);
 }
 
 // ---------------------------------------------------------------- events

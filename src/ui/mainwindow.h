@@ -93,7 +93,6 @@ private:
     void retranslate();
 
 
-    void exportFinishedHandle(const QStringList& files, const QStringList& errors);
 
     void addLocalSubtitle();
     void openMediaFile(const QString& path);

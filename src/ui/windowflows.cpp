@@ -7,14 +7,18 @@
 #include "captionwidget.h"
 #include "capturecontroller.h"
 #include "globalmanager.h"
+#include "imageexporter.h"
 #include "imageitem.h"
+#include "imageswidget.h"
 #include "loadingdialog.h"
 #include "messagedialog.h"
 #include "playercapturesource.h"
 #include "previewwidget.h"
+#include "registerguidedialog.h"
 #include "videoplaywidget.h"
 
 #include <QDebug>
+#include <QPushButton>
 
 WindowFlows::WindowFlows(const Parts& parts)
     : QObject(parts.window)
@@ -23,6 +27,7 @@ WindowFlows::WindowFlows(const Parts& parts)
     initCapture();
     initAutoCaptions();
     initCaptionFiles();
+    initExports();
 }
 
 void WindowFlows::showMessage(const QString& title, const QString& message)
@@ -41,6 +46,20 @@ void WindowFlows::initCapture()
     connect(m_parts.captions, &CaptionWidget::captionTextChangedSignal, m_editor, &CaptionEditor::textEdited);
     connect(m_editor, &CaptionEditor::captionChanged, m_parts.captions, &CaptionWidget::updateCaptionItem);
 
+    connect(m_parts.captions, &CaptionWidget::createCaptionSignal, this, [this]() {
+        if (!m_parts.player->isLoadFile()) {
+            showMessage(tr("No video"), tr("Open a video first, then create a caption at the current time."));
+            return;
+        }
+        if (!m_parts.player->insertCaptionAtCurrentTime()) {
+            showMessage(tr("No room for a caption"),
+                        tr("A caption already covers the current time. Move to a moment without a caption."));
+        }
+    });
+    // The caption panel's capture button is the player's.
+    connect(m_parts.captions, &CaptionWidget::captureSelectSignal, this, [this](int) {
+        m_parts.player->getControlButton(VideoPlayWidget::ButtonCaptureSelected)->click();
+    });
     connect(player, &VideoPlayWidget::captureNowRequested, m_capture, &CaptureController::captureNow);
     connect(player, &VideoPlayWidget::captureCheckedRequested, m_capture, &CaptureController::startCaptureChecked);
     connect(m_capture, &CaptureController::busy, m_parts.loading, &LoadingDialog::showWithText);
@@ -87,4 +106,24 @@ void WindowFlows::initCaptionFiles()
         }
         m_parts.player->loadSubTitleFile(assPath);
     });
+}
+
+void WindowFlows::initExports()
+{
+    // One message for every failure of an export, from either panel.
+    auto finished = [this](const QStringList& files, const QStringList& errors) {
+        if (!errors.isEmpty()) {
+            showMessage(ImageExporter::summary(files, errors), errors.join(QLatin1Char('\n')));
+        }
+    };
+    ImagesWidget* strip = m_parts.strip;
+    PreviewWidget* preview = m_parts.preview;
+    connect(strip, &ImagesWidget::showRegisterGuide, this, [this, strip]() {
+        RegisterGuideDialog::showAfterExport(m_parts.window, [strip]() { strip->registerGuideClosedHandle(); });
+    });
+    connect(preview, &PreviewWidget::showRegisterGuide, this, [this, preview]() {
+        RegisterGuideDialog::showAfterExport(m_parts.window, [preview]() { preview->registerGuideClosedHandle(); });
+    });
+    connect(strip, &ImagesWidget::exportFinishedSignal, this, finished);
+    connect(preview, &PreviewWidget::exportFinishedSignal, this, finished);
 }

@@ -53,6 +53,7 @@ private:
     void initCapture();
     void initAutoCaptions();
     void initCaptionFiles();
+    void initExports();
 
     Parts m_parts;
     CaptureController* m_capture = nullptr;
