@@ -269,7 +269,7 @@ void CaptureController::seekTo(double seconds)
     m_settleTimer->stop();
     setState(State::SeekSent);
     m_source->pause();
-    m_frameTimeout->start(2 * kFrameTimeoutMs);
+    m_frameTimeout->start(2 * m_frameTimeoutMs);
     m_source->seekForCapture(seconds);
 }
 
@@ -288,7 +288,7 @@ void CaptureController::seekAnswered()
     }
     setState(State::SeekAnswered);
     m_settleTimer->start();
-    m_frameTimeout->start(kFrameTimeoutMs);
+    m_frameTimeout->start(m_frameTimeoutMs);
 }
 
 void CaptureController::frameReady()

@@ -29,7 +29,8 @@ public:
     enum class Pass { None, Checked, RecaptureAll, RecaptureSingle };
     Q_ENUM(Pass)
 
-    // A seek whose frame never shows must not stall a pass for ever.
+    // A seek whose frame never shows must not stall a pass for ever: after its
+    // answer the frame is awaited this long, the answer itself twice as long.
     static constexpr int kFrameTimeoutMs = 5000;
     // The fixed pause between a seek's answer and its snapshot.
     static constexpr int kSettleMs = 500;
@@ -42,6 +43,7 @@ public:
     CaptionInfo* editedCaption() const { return m_editedCaption; }
     bool isRecaptureAllPending() const { return m_recaptureAllPending; }
     bool isBusy() const { return m_pass != Pass::None; }
+    void setFrameTimeout(int ms) { m_frameTimeoutMs = ms; }
 
     // The seek time of a caption: its start in milliseconds divided in single
     // precision, which decides the frame hit near a frame boundary.
@@ -89,6 +91,7 @@ private:
     QPointer<ImagesWidget> m_strip;
     State m_state = State::Idle;
     Pass m_pass = Pass::None;
+    int m_frameTimeoutMs = kFrameTimeoutMs;
     bool m_settled = false;
     bool m_busyShown = false;
     QTimer* m_settleTimer;
