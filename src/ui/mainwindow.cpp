@@ -6,6 +6,7 @@
 #include "captionmanager.h"
 #include "captionwidget.h"
 #include "checkupdatedialog.h"
+#include "framegrabber.h"
 #include "globalmanager.h"
 #include "httpmanager.h"
 #include "imageitem.h"
@@ -886,9 +887,7 @@ void MainWindow::captureSelectHandle(int type)
         }
         m_loadingDialog->showWithText(tr("Capturing images"));
         CaptionInfo* first = m_captureQueue.takeFirst();
-        // Single precision on purpose: it decides the frame hit near a boundary.
-        const float seconds = static_cast<float>(CaptionManager::parseAssTime(first->start)) / 1000.0f;
-        seekForCapture(static_cast<double>(seconds));
+        seekForCapture(FrameGrabber::captureSeconds(CaptionManager::parseAssTime(first->start)));
     } else if (type == 17) {
         armCaptureStep(StepSelect);
     }
@@ -906,8 +905,7 @@ void MainWindow::captureSelectStep()
     emitCapture(pixmap);
     if (!m_captureQueue.isEmpty()) {
         CaptionInfo* next = m_captureQueue.takeFirst();
-        const float seconds = static_cast<float>(CaptionManager::parseAssTime(next->start)) / 1000.0f;
-        seekForCapture(static_cast<double>(seconds));
+        seekForCapture(FrameGrabber::captureSeconds(CaptionManager::parseAssTime(next->start)));
         return;
     }
     m_videoPlayWidget->changeCaptureType(0);
