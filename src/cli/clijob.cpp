@@ -16,11 +16,20 @@
 #include <QThread>
 #include <QThreadPool>
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace {
 // More grabbers than this only add memory: decoding a seek is short.
 constexpr int kMaxGrabbers = 4;
+// PNG at zlib level 5 rather than 6: about a third less time for files some
+// 3 % larger, the same pixels. Other formats keep their default quality.
+constexpr int kPngQuality = 45;
+
+int writeQuality(const QString& format)
+{
+    return format == AppConfig::FORMAT_PNG ? kPngQuality : -1;
+}
 } // namespace
 
 CliJob::CliJob(const CliOptions& options, const QString& workDir, ProgressReporter* progress, QObject* parent)
@@ -67,27 +76,14 @@ void CliJob::start()
     }
     GlobalManager::instance()->setCurrentFile(video);
 
-    // The players load the video while the subtitles are being prepared.
+    // The first player loads the video while the subtitles are being
+    // prepared; as many more as there are cores (and captions) join it.
     const int cores = qMax(1, QThread::idealThreadCount());
-    const int count = qMin(cores, kMaxGrabbers);
-    try {
-        for (int i = 0; i < count; ++i) {
-            auto* grabber = new FrameGrabber();
-            m_grabbers.append(grabber);
-            grabber->setDecoderThreads(qMax(1, cores / count));
-            connect(grabber, &FrameGrabber::ready, this, &CliJob::grabberReady);
-            connect(grabber, &FrameGrabber::failed, this, &CliJob::grabberFailed);
-            connect(grabber, &FrameGrabber::frameReady, this,
-                    [this, grabber](int tag, const QImage& image, const QImage& plain) {
-                        frameArrived(grabber, tag, image, plain);
-                    });
-            grabber->open(video.absoluteFilePath());
-        }
-    } catch (const std::runtime_error& error) {
-        fail(QStringLiteral("the video player could not be started: %1").arg(QString::fromLocal8Bit(error.what())));
+    const int most = qMin(cores, kMaxGrabbers);
+    const int threads = qMax(1, cores / most);
+    if (!addGrabber(video.absoluteFilePath(), threads)) {
         return;
     }
-
     QString error;
     const QString assPath = CaptionSource::load(video.absoluteFilePath(), m_options.subtitles, m_workDir, &error);
     if (assPath.isEmpty()) {
@@ -97,9 +93,33 @@ void CliJob::start()
     if (!chooseShots()) {
         return;
     }
+    while (m_grabbers.size() < qMin(most, m_chosen.size())) {
+        if (!addGrabber(video.absoluteFilePath(), threads)) {
+            return;
+        }
+    }
     for (FrameGrabber* grabber : qAsConst(m_grabbers)) {
         grabber->setSubtitles(assPath);
     }
+}
+
+bool CliJob::addGrabber(const QString& video, int threads)
+{
+    FrameGrabber* grabber = nullptr;
+    try {
+        grabber = new FrameGrabber();
+    } catch (const std::runtime_error& error) {
+        fail(QStringLiteral("the video player could not be started: %1").arg(QString::fromLocal8Bit(error.what())));
+        return false;
+    }
+    m_grabbers.append(grabber);
+    grabber->setDecoderThreads(threads);
+    connect(grabber, &FrameGrabber::ready, this, &CliJob::grabberReady);
+    connect(grabber, &FrameGrabber::failed, this, &CliJob::grabberFailed);
+    connect(grabber, &FrameGrabber::frameReady, this,
+            [this](int tag, const QImage& image, const QImage& plain) { frameArrived(tag, image, plain); });
+    grabber->open(video);
+    return true;
 }
 
 bool CliJob::checkOutput()
@@ -157,15 +177,15 @@ bool CliJob::chooseShots()
 
 void CliJob::grabberReady()
 {
-    if (m_done || m_capturing || m_chosen.isEmpty()) {
+    if (m_done || m_chosen.isEmpty()) {
         return;
     }
-    for (FrameGrabber* grabber : qAsConst(m_grabbers)) {
-        if (!grabber->isReady()) {
-            return;
-        }
+    // Capturing starts with the first player ready; the others join as they come.
+    if (!m_capturing) {
+        beginCapture();
+    } else {
+        dispatch();
     }
-    beginCapture();
 }
 
 void CliJob::grabberFailed(FrameGrabber::Failure failure, const QString& detail)
@@ -189,8 +209,13 @@ void CliJob::grabberFailed(FrameGrabber::Failure failure, const QString& detail)
 
 void CliJob::beginCapture()
 {
+    const auto ready = std::find_if(m_grabbers.cbegin(), m_grabbers.cend(),
+                                    [](const FrameGrabber* grabber) { return grabber->isReady(); });
+    if (ready == m_grabbers.cend()) {
+        return;
+    }
     m_capturing = true;
-    const double duration = m_grabbers.constFirst()->duration();
+    const double duration = (*ready)->duration();
     for (const Shot& shot : qAsConst(m_chosen)) {
         if (duration > 0.0 && shot.seconds >= duration) {
             m_progress->note(QStringLiteral("caption %1 starts at %2, at or after the end of the video (%3 s): skipped")
@@ -236,9 +261,8 @@ void CliJob::dispatch()
     }
 }
 
-void CliJob::frameArrived(FrameGrabber* grabber, int tag, const QImage& image, const QImage& plain)
+void CliJob::frameArrived(int tag, const QImage& image, const QImage& plain)
 {
-    Q_UNUSED(grabber)
     if (m_done) {
         return;
     }
@@ -346,7 +370,7 @@ void CliJob::writeFrame(int index, const QImage& image)
             PictureWriter::paintWatermark(frame, AppConfig::APP_NAME);
         }
         QString error;
-        PictureWriter::write(frame, path, format, &error);
+        PictureWriter::write(frame, path, format, &error, writeQuality(format));
         frame = QImage();
         QMetaObject::invokeMethod(this, [this, path, error]() { frameWritten(path, error); }, Qt::QueuedConnection);
     }));
@@ -413,7 +437,7 @@ void CliJob::finishPicture()
         PictureWriter::paintWatermark(picture, AppConfig::APP_NAME);
     }
     QString error;
-    if (!PictureWriter::write(picture, m_options.output, m_options.format, &error)) {
+    if (!PictureWriter::write(picture, m_options.output, m_options.format, &error, writeQuality(m_options.format))) {
         fail(QStringLiteral("cannot write %1: %2").arg(m_options.output, error));
         return;
     }

@@ -47,12 +47,13 @@ private:
     void fail(const QString& message, int exitCode = 1);
     void succeed(const QString& summary);
     bool checkOutput();
+    bool addGrabber(const QString& video, int threads);
     bool chooseShots();
     void grabberReady();
     void grabberFailed(FrameGrabber::Failure failure, const QString& detail);
     void beginCapture();
     void dispatch();
-    void frameArrived(FrameGrabber* grabber, int tag, const QImage& image, const QImage& plain);
+    void frameArrived(int tag, const QImage& image, const QImage& plain);
     void useFrame(int index, const Frame& frame);
     bool startCanvas(const QSize& firstSize);
     void writeFrame(int index, const QImage& image);

@@ -13,6 +13,9 @@
 
 #include <clocale>
 #include <cstdio>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace {
 // The library reports through Qt's log; a command prints its own messages.
@@ -26,6 +29,12 @@ void messageHandler(QtMsgType type, const QMessageLogContext&, const QString& me
 
 int main(int argc, char* argv[])
 {
+#ifdef __GLIBC__
+    // Frames of several megabytes are made on the players' threads and freed
+    // on others; with few malloc arenas that memory is found again instead
+    // of piling up in one arena per thread.
+    mallopt(M_ARENA_MAX, 2);
+#endif
     // Never a window: the offscreen platform needs no display and still has
     // the fonts the watermark is drawn with.
     qputenv("QT_QPA_PLATFORM", "offscreen");

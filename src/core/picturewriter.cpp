@@ -92,7 +92,8 @@ QString PictureWriter::formatProblem(const QString& format, const QSize& size)
     return QString();
 }
 
-bool PictureWriter::write(const QImage& image, const QString& path, const QString& format, QString* error)
+bool PictureWriter::write(const QImage& image, const QString& path, const QString& format, QString* error,
+                          int quality)
 {
     auto fail = [error](const QString& reason) {
         if (error) {
@@ -113,8 +114,10 @@ bool PictureWriter::write(const QImage& image, const QString& path, const QStrin
     if (!file.open(QIODevice::WriteOnly)) {
         return fail(tr("Cannot create the file: %1").arg(file.errorString()));
     }
-    // Default quality for every format: a quality for PNG would only lower its compression.
+    // The format's default quality unless asked otherwise: for PNG a quality
+    // only trades compression for speed.
     QImageWriter writer(&file, format.toLower().toUtf8());
+    writer.setQuality(quality);
     if (!writer.write(image)) {
         const QString reason = file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
         file.cancelWriting();

@@ -24,7 +24,9 @@ public:
 
     // Writes `image` to exactly `path` (an existing file is replaced, and only
     // once the new one is complete). False with the reason in *error.
-    static bool write(const QImage& image, const QString& path, const QString& format, QString* error = nullptr);
+    // `quality` as QImageWriter takes it; -1 is the format's default.
+    static bool write(const QImage& image, const QString& path, const QString& format, QString* error = nullptr,
+                      int quality = -1);
 
     // Stamps `text` and the tagline into the middle of the picture, in place.
     static void paintWatermark(QImage& image, const QString& text);

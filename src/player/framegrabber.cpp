@@ -18,10 +18,14 @@ FrameGrabber::FrameGrabber(QObject* parent)
     }
     // No video output, no sound, no window, no GPU: frames are decoded in
     // software and taken as raw screenshots at the video's own resolution.
+    // Nor any of the player's scripts and overlays, which only cost time here.
     const char* const options[][2] = {
-        {"terminal", "no"},   {"config", "no"},     {"sub-auto", "no"},  {"vo", "null"},
-        {"ao", "null"},       {"aid", "no"},        {"hwdec", "no"},     {"pause", "yes"},
-        {"keep-open", "yes"}, {"osd-level", "0"},   {"idle", "yes"},     {"input-default-bindings", "no"},
+        {"terminal", "no"},         {"config", "no"},           {"sub-auto", "no"},
+        {"vo", "null"},             {"ao", "null"},             {"aid", "no"},
+        {"hwdec", "no"},            {"pause", "yes"},           {"keep-open", "yes"},
+        {"osd-level", "0"},         {"idle", "yes"},            {"input-default-bindings", "no"},
+        {"load-scripts", "no"},     {"ytdl", "no"},             {"osc", "no"},
+        {"load-stats-overlay", "no"}, {"load-osd-console", "no"}, {"load-auto-profiles", "no"},
     };
     for (const auto& option : options) {
         mpv_set_option_string(m_mpv, option[0], option[1]);
