@@ -65,7 +65,7 @@ int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
-    AppConfig::registerMetaTypes();
+    CaptionManager::registerMetaTypes();
     const QString work = TestSupport::makeWorkDir(QStringLiteral("bench-speech"));
     const QString data = QStringLiteral("/usr/share/pocketsphinx/test/data/");
 

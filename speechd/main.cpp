@@ -1,6 +1,8 @@
 // glimmer-speechd: a small speech-recognition service on the loopback interface.
 // Upload audio with POST /api/speech/submit?language=CODE (multipart, part "file"),
 // then GET /api/speech/query?task_id=ID, which answers once the task is done.
+// Started with $GLIMMER_SPEECHD_TOKEN set, it answers only requests that carry
+// "Authorization: Bearer <token>".
 
 #include "audiodecoder.h"
 #include "openairecognizer.h"
@@ -10,13 +12,17 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <pthread.h>
+#include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 
@@ -41,6 +47,41 @@ QString findFfmpeg(const QString& given)
     return onPath.isEmpty() ? QStringLiteral("ffmpeg") : onPath;
 }
 
+// Temporary folders are named after the service's process id, so that those
+// of services that ended without cleaning up (killed) can be told from those
+// of services still running.
+const QString kWorkPrefix = QStringLiteral("glimmer-speechd-");
+
+bool isRunningService(pid_t pid)
+{
+    if (pid == getpid()) {
+        return true;
+    }
+    if (kill(pid, 0) != 0 && errno != EPERM) {
+        return false;
+    }
+    // The id may have gone to another program since.
+    QFile comm(QStringLiteral("/proc/%1/comm").arg(pid));
+    return !comm.open(QIODevice::ReadOnly) || comm.readAll().trimmed() == "glimmer-speechd";
+}
+
+void sweepStaleFolders(const QString& tempPath)
+{
+    QDirIterator it(tempPath, {kWorkPrefix + QStringLiteral("*")}, QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        const QStringList parts = it.fileName().mid(kWorkPrefix.size()).split(QLatin1Char('-'));
+        bool isPid = false;
+        const pid_t pid = parts.size() == 2 ? static_cast<pid_t>(parts.first().toLong(&isPid)) : 0;
+        struct stat info {};
+        if (!isPid || pid <= 0 || lstat(QFile::encodeName(path).constData(), &info) != 0 || info.st_uid != getuid()
+            || !S_ISDIR(info.st_mode) || isRunningService(pid)) {
+            continue;
+        }
+        QDir(path).removeRecursively();
+    }
+}
+
 int fail(const QString& message)
 {
     std::fprintf(stderr, "glimmer-speechd: %s\n", qPrintable(message));
@@ -63,10 +104,16 @@ int main(int argc, char* argv[])
 
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("glimmer-speechd"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(GLIMMER_VERSION));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Local speech-recognition service for Glimmer."));
+    parser.setApplicationDescription(QStringLiteral(
+        "Local speech-recognition service for Glimmer.\n"
+        "It prints one line, \"glimmer-speechd listening on http://HOST:PORT (BACKEND)\", once it listens.\n"
+        "With $GLIMMER_SPEECHD_TOKEN set, requests without \"Authorization: Bearer <token>\" are refused (401).\n"
+        "Requests whose Host is not the service's own address, and any with an Origin, are refused (403)."));
     parser.addHelpOption();
+    parser.addVersionOption();
     const QCommandLineOption hostOption(QStringLiteral("host"), QStringLiteral("Address to listen on."),
                                         QStringLiteral("address"), QStringLiteral("127.0.0.1"));
     const QCommandLineOption portOption(QStringLiteral("port"), QStringLiteral("Port to listen on; 0 picks a free one."),
@@ -74,13 +121,27 @@ int main(int argc, char* argv[])
     const QCommandLineOption uploadOption(QStringLiteral("max-upload-mb"), QStringLiteral("Largest upload accepted."),
                                           QStringLiteral("megabytes"), QStringLiteral("512"));
     const QCommandLineOption queueOption(QStringLiteral("max-queue"),
-                                         QStringLiteral("Tasks uploading, waiting or running at most."),
+                                         QStringLiteral("Tasks waiting or running at most; twice as many uploads may arrive at once."),
                                          QStringLiteral("count"), QStringLiteral("8"));
     const QCommandLineOption jobsOption(QStringLiteral("jobs"), QStringLiteral("Recognitions running at the same time."),
                                         QStringLiteral("count"), QStringLiteral("1"));
     const QCommandLineOption queryTimeoutOption(QStringLiteral("query-timeout"),
                                                 QStringLiteral("Longest wait of a result query."),
                                                 QStringLiteral("seconds"), QStringLiteral("3600"));
+    const QCommandLineOption requestTimeoutOption(
+        QStringLiteral("request-timeout"),
+        QStringLiteral("Longest time a client may take to send one request, upload included "
+                       "(its headers get at most 10 seconds of it)."),
+        QStringLiteral("seconds"), QStringLiteral("300"));
+    const QCommandLineOption idleTimeoutOption(QStringLiteral("idle-timeout"),
+                                               QStringLiteral("Idle connections are closed after this long."),
+                                               QStringLiteral("seconds"), QStringLiteral("5"));
+    const QCommandLineOption maxDurationOption(QStringLiteral("max-duration"),
+                                               QStringLiteral("Longest audio accepted."),
+                                               QStringLiteral("seconds"), QStringLiteral("14400"));
+    const QCommandLineOption decodeTimeoutOption(QStringLiteral("decode-timeout"),
+                                                 QStringLiteral("Longest time decoding one upload may take."),
+                                                 QStringLiteral("seconds"), QStringLiteral("1800"));
     const QCommandLineOption ttlOption(QStringLiteral("result-ttl"), QStringLiteral("How long finished results are kept."),
                                        QStringLiteral("seconds"), QStringLiteral("600"));
     const QCommandLineOption ffmpegOption(QStringLiteral("ffmpeg"), QStringLiteral("The ffmpeg program to decode uploads."),
@@ -101,7 +162,8 @@ int main(int argc, char* argv[])
                                           QStringLiteral("Exit when this process, the one that started the service, ends."),
                                           QStringLiteral("pid"));
     const QCommandLineOption quietOption(QStringLiteral("quiet"), QStringLiteral("Log nothing but errors."));
-    parser.addOptions({hostOption, portOption, uploadOption, queueOption, jobsOption, queryTimeoutOption, ttlOption,
+    parser.addOptions({hostOption, portOption, uploadOption, queueOption, jobsOption, queryTimeoutOption,
+                       requestTimeoutOption, idleTimeoutOption, ttlOption, maxDurationOption, decodeTimeoutOption,
                        ffmpegOption, modelOption, openAiUrlOption, openAiModelOption, parentOption, quietOption});
     parser.process(app);
 
@@ -111,16 +173,25 @@ int main(int argc, char* argv[])
         return ok && out >= low && out <= high;
     };
     long long port = 0, uploadMb = 0, queue = 0, jobs = 0, queryTimeout = 0, ttl = 0, parentPid = 0;
+    long long requestTimeout = 0, idleTimeout = 0, maxDuration = 0, decodeTimeout = 0;
     if (!number(portOption, 0, 65535, port) || !number(uploadOption, 1, 1 << 20, uploadMb)
         || !number(queueOption, 1, 1000, queue) || !number(jobsOption, 1, 64, jobs)
-        || !number(queryTimeoutOption, 1, 86400 * 7, queryTimeout) || !number(ttlOption, 1, 86400 * 7, ttl)) {
+        || !number(queryTimeoutOption, 1, 86400 * 7, queryTimeout) || !number(ttlOption, 1, 86400 * 7, ttl)
+        || !number(requestTimeoutOption, 1, 86400, requestTimeout) || !number(idleTimeoutOption, 1, 3600, idleTimeout)
+        || !number(maxDurationOption, 1, 86400, maxDuration) || !number(decodeTimeoutOption, 1, 86400, decodeTimeout)) {
         return fail(QStringLiteral("invalid option value; see --help"));
     }
     if (parser.isSet(parentOption) && !number(parentOption, 1, 1LL << 31, parentPid)) {
         return fail(QStringLiteral("invalid --parent-pid"));
     }
 
-    QTemporaryDir workDir(QDir::tempPath() + QStringLiteral("/glimmer-speechd-XXXXXX"));
+    // The token is read once and kept from the programs the service runs.
+    const QByteArray token = qgetenv("GLIMMER_SPEECHD_TOKEN");
+    qunsetenv("GLIMMER_SPEECHD_TOKEN");
+
+    sweepStaleFolders(QDir::tempPath());
+    QTemporaryDir workDir(QDir::tempPath() + QLatin1Char('/') + kWorkPrefix + QString::number(getpid())
+                          + QStringLiteral("-XXXXXX"));
     if (!workDir.isValid()) {
         return fail(QStringLiteral("cannot create a temporary folder: ") + workDir.errorString());
     }
@@ -150,12 +221,16 @@ int main(int argc, char* argv[])
     options.jobs = static_cast<int>(jobs);
     options.queryTimeoutSeconds = static_cast<int>(queryTimeout);
     options.resultTtlSeconds = static_cast<int>(ttl);
+    options.requestTimeoutSeconds = static_cast<int>(requestTimeout);
+    options.idleTimeoutSeconds = static_cast<int>(idleTimeout);
+    options.token = token.toStdString();
     options.workDir = workDir.path().toStdString();
     options.quiet = parser.isSet(quietOption);
 
     const std::string backend = recognizer->name();
     SpeechServer server(options, std::move(recognizer),
-                        AudioDecoder(findFfmpeg(parser.value(ffmpegOption)).toStdString()));
+                        AudioDecoder(findFfmpeg(parser.value(ffmpegOption)).toStdString(),
+                                     static_cast<int>(decodeTimeout), static_cast<int>(maxDuration)));
     if (!server.bind()) {
         return fail(QStringLiteral("cannot listen on %1:%2 (address in use?)").arg(parser.value(hostOption)).arg(port));
     }

@@ -16,19 +16,24 @@
 #include <thread>
 #include <vector>
 
+class HttpFront;
+
 namespace httplib {
-class Server;
+struct Request;
 }
 
 struct ServerOptions {
     std::string host = "127.0.0.1";
     int port = 17861; // 0: any free port
     size_t maxUploadBytes = 512u * 1024u * 1024u;
-    size_t maxQueue = 8;  // tasks uploading, waiting or running
+    size_t maxQueue = 8;  // tasks waiting or running
     int jobs = 1;         // recognitions at the same time
     int queryTimeoutSeconds = 3600;
     int resultTtlSeconds = 600;
-    std::string workDir;  // temporary files; created and removed by the server
+    int requestTimeoutSeconds = 300; // to receive one request, upload included
+    int idleTimeoutSeconds = 5;      // an idle connection is closed after this
+    std::string token;    // when set, requests must carry "Authorization: Bearer <token>"
+    std::string workDir;  // temporary files; created and removed by the caller
     bool quiet = false;
 };
 
@@ -63,17 +68,19 @@ private:
     using TaskPtr = std::shared_ptr<Task>;
 
     void setupRoutes();
+    std::string refusal(const httplib::Request& req, int& status) const;
     void workerLoop();
     void process(const TaskPtr& task);
-    void finish(const TaskPtr& task, const std::string& reply);
+    void finishLocked(const TaskPtr& task, const std::string& reply);
     void purgeLocked();
+    size_t maxResults() const;
     std::string newTaskId();
     void log(const std::string& line) const;
 
     ServerOptions m_options;
     std::unique_ptr<Recognizer> m_recognizer;
     AudioDecoder m_decoder;
-    std::unique_ptr<httplib::Server> m_http;
+    std::unique_ptr<HttpFront> m_http;
     int m_port = 0;
 
     std::mutex m_mutex;
@@ -81,7 +88,9 @@ private:
     std::condition_variable m_taskFinished;
     std::deque<TaskPtr> m_pending;
     std::map<std::string, TaskPtr> m_tasks;
-    size_t m_busy = 0; // uploading or running
+    std::deque<TaskPtr> m_finished; // oldest first; bounded in number and age
+    size_t m_running = 0;
+    size_t m_uploading = 0;
     bool m_stopping = false;
     std::vector<std::thread> m_workers;
 };

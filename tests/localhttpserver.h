@@ -22,6 +22,7 @@ public:
         QByteArray method;
         QString path;
         QByteArray body;
+        QByteArray head; // request line and headers
     };
     struct Response {
         int status = 200;
@@ -74,7 +75,7 @@ private:
                 return;
             }
             Request request{first.value(0), QString::fromLatin1(first.value(1)),
-                            buffer->mid(headerEnd + 4, length)};
+                            buffer->mid(headerEnd + 4, length), buffer->left(headerEnd)};
             buffer->clear();
             QObject::disconnect(socket, &QTcpSocket::readyRead, nullptr, nullptr);
             m_counts[request.path] += 1;

@@ -17,11 +17,17 @@ public:
 
     ~SpeechdProcess() { stop(); }
 
-    // tmpDir: the service's TMPDIR, so that tests can watch its temporary files.
-    bool start(const QStringList& extraArguments = QStringList(), const QString& tmpDir = QString())
+    // tmpDir: the service's TMPDIR, so that tests can watch its temporary files;
+    // token: the access token it requires.
+    bool start(const QStringList& extraArguments = QStringList(), const QString& tmpDir = QString(),
+               const QString& token = QString())
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.remove(QStringLiteral("GLIMMER_SPEECHD_OPENAI_URL"));
+        environment.remove(QStringLiteral("GLIMMER_SPEECHD_TOKEN"));
+        if (!token.isEmpty()) {
+            environment.insert(QStringLiteral("GLIMMER_SPEECHD_TOKEN"), token);
+        }
         if (!tmpDir.isEmpty()) {
             QDir().mkpath(tmpDir);
             environment.insert(QStringLiteral("TMPDIR"), tmpDir);

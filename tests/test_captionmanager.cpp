@@ -198,6 +198,8 @@ private slots:
         QCOMPARE(captions.at(2)->end, QStringLiteral("0:0:7.99"));
         QCOMPARE(captions.at(3)->end, QStringLiteral("0:0:9.0"));
         QCOMPARE(captions.at(1)->text, QStringLiteral("costs %4 now"));
+        QCOMPARE(captions.at(1)->startMs(), 5000);
+        QCOMPARE(captions.at(1)->endMs(), 6030);
 
         QCOMPARE(readText(m->getTempAssFilePath()),
                  kHeader + kDefaultStyle + kEventsHeader
@@ -417,6 +419,29 @@ private slots:
     {
         m->createCaptions(utterances({{0, 1000, QStringLiteral("line one\nline two")}}), false);
         QVERIFY(readText(m->getTempAssFilePath()).endsWith(QStringLiteral(",,line one\\Nline two\n")));
+    }
+
+    void replacedRecordsAreFreed()
+    {
+        QList<std::tuple<int, int, QString>> many;
+        for (int i = 0; i < 200; ++i) {
+            many.append({i * 1000, i * 1000 + 900, QStringLiteral("line %1").arg(i)});
+        }
+        const int before = CaptionInfo::liveCount() - m->getCaptions().size();
+        QSignalSpy aboutToReplace(m, &CaptionManager::aboutToReplaceCaptions);
+        for (int round = 0; round < 3; ++round) {
+            m->createCaptions(utterances(many), false);
+            QCOMPARE(CaptionInfo::liveCount(), before + 200);
+            QCOMPARE(m->loadCaptionFile(m->getTempAssFilePath()), 0);
+            QCOMPARE(m->getCaptions().size(), 200);
+            QCOMPARE(CaptionInfo::liveCount(), before + 200);
+        }
+        QCOMPARE(aboutToReplace.count(), 6);
+        const QList<CaptionInfo*> taken = m->takeCaptions();
+        QCOMPARE(CaptionInfo::liveCount(), before + 200);
+        m->replaceCaptions(taken);
+        m->clearCaptions();
+        QCOMPARE(CaptionInfo::liveCount(), before);
     }
 
 private:

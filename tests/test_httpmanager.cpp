@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "globalmanager.h"
 #include "httpmanager.h"
+#include "localhttpserver.h"
 #include "speechdprocess.h"
 #include "speechservice.h"
 #include "testsupport.h"
@@ -10,6 +11,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
 #include <QSignalSpy>
 #include <QTcpSocket>
 #include <QTest>
@@ -116,9 +119,18 @@ private slots:
         QVERIFY(!HttpManager::instance()->isUploading());
     }
 
-    void bundledServiceStartsOnDemandAndStops()
+    void bundledServiceIsTheAppsOwn()
     {
-        const QString url = QStringLiteral("http://127.0.0.1:%1").arg(freePort());
+        // Something else squats on the managed address and invents captions.
+        LocalHttpServer squatter([](const LocalHttpServer::Request& request) {
+            LocalHttpServer::Response response;
+            response.body = request.path.contains(QLatin1String("submit"))
+                                ? QByteArray(R"({"task_id":"made-up"})")
+                                : TestSupport::utterances({{0, 1000, QStringLiteral("invented")}});
+            return response;
+        });
+        QVERIFY(squatter.listen());
+        const QString url = squatter.url(QString());
         SpeechService* service = SpeechService::instance();
         service->setManagedBaseUrl(url);
         service->setProgram(SpeechdProcess::program());
@@ -127,10 +139,24 @@ private slots:
 
         QSignalSpy finished(HttpManager::instance(), &HttpManager::requestFinished);
         QSignalSpy errors(HttpManager::instance(), &HttpManager::requestError);
+        QSignalSpy events(GlobalManager::instance(), &GlobalManager::globalEvent);
         HttpManager::instance()->loadCaptions(m_speech, QStringLiteral("en-US"));
         QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 1, 60000);
         QVERIFY(errors.isEmpty());
         QVERIFY(service->isStartedByUs());
+        QVERIFY(squatter.requests().isEmpty());
+        const QByteArray result = TestSupport::eventValues(events, AppConfig::TASK_ID).value(0).toByteArray();
+        QVERIFY2(!result.contains("invented") && result.contains("utterances"), result.constData());
+
+        // The service started for this run listens elsewhere and wants the run's token.
+        const QUrl own(service->serviceUrl(url));
+        QCOMPARE(own.host(), QStringLiteral("127.0.0.1"));
+        QVERIFY(own.port() != QUrl(url).port());
+        QNetworkAccessManager network;
+        QNetworkReply* anonymous = network.get(QNetworkRequest(QUrl(own.toString() + "/api/speech/health")));
+        QTRY_VERIFY_WITH_TIMEOUT(anonymous->isFinished(), 10000);
+        QCOMPARE(anonymous->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), 401);
+        delete anonymous;
 
         // A second request reuses the running service.
         QSignalSpy started(service, &SpeechService::serviceStarted);
@@ -141,8 +167,18 @@ private slots:
         service->stop();
         QVERIFY(!service->isStartedByUs());
         QTcpSocket socket;
-        socket.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(QUrl(url).port()));
+        socket.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(own.port()));
         QVERIFY(!socket.waitForConnected(1000));
+
+        // An address the user chose is used as it is, without the token.
+        service->setManagedBaseUrl(AppConfig::DEFAULT_SPEECH_SERVER_URL);
+        HttpManager::instance()->loadCaptions(m_speech, QStringLiteral("en-US"));
+        QTRY_COMPARE_WITH_TIMEOUT(finished.size(), 3, 30000);
+        QVERIFY(!service->isStartedByUs());
+        QCOMPARE(squatter.requests().size(), 2);
+        for (const LocalHttpServer::Request& request : squatter.requests()) {
+            QVERIFY2(!request.head.toLower().contains("authorization"), request.head.constData());
+        }
     }
 
     void missingBundledServiceIsReported()

@@ -4,6 +4,7 @@
 #include "testsupport.h"
 
 #include <QElapsedTimer>
+#include <QHash>
 #include <QtEndian>
 #include <QEventLoop>
 #include <QFile>
@@ -18,10 +19,13 @@
 #include <QTest>
 #include <QTimer>
 
+#include <csignal>
+
 namespace {
 
 struct Answer {
     int status = 0;
+    QByteArray head;
     QByteArray body;
     QJsonObject json;
     bool isJsonObject = false;
@@ -57,9 +61,13 @@ class TestSpeechd : public QObject
 private:
     QNetworkAccessManager m_network;
     SpeechdProcess m_server;
+    SpeechdProcess m_secured; // requires kToken
     QString m_work;
     QString m_speech;     // ~7 s of read speech
     QString m_longSpeech; // ~22 s
+    QString m_sleeper;    // an "ffmpeg" that never ends
+
+    static constexpr const char* kToken = "0123456789abcdef";
 
     QNetworkReply* submit(const QString& base, const QString& file, const QString& language)
     {
@@ -92,11 +100,13 @@ private:
         return finish(query(base, submitted.json.value(QStringLiteral("task_id")).toString()));
     }
 
-    // Sends bytes as they are and returns the status and body of the answer.
-    Answer raw(const QByteArray& request)
+    // Sends bytes as they are ("HOST" standing for the service's address) and
+    // returns the status, head and body of the answer.
+    Answer raw(int port, QByteArray request)
     {
+        request.replace("HOST", "127.0.0.1:" + QByteArray::number(port));
         QTcpSocket socket;
-        socket.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(m_server.port()));
+        socket.connectToHost(QHostAddress::LocalHost, static_cast<quint16>(port));
         Answer answer;
         if (!socket.waitForConnected(5000)) {
             return answer;
@@ -117,6 +127,7 @@ private:
         }
         data += socket.readAll();
         answer.status = data.mid(9, 3).toInt();
+        answer.head = data.left(data.indexOf("\r\n\r\n"));
         answer.body = data.mid(data.indexOf("\r\n\r\n") + 4);
         const QJsonDocument document = QJsonDocument::fromJson(answer.body);
         answer.isJsonObject = document.isObject();
@@ -155,6 +166,19 @@ private slots:
         QVERIFY(TestSupport::makeSpeechMp3({librivox("0870"), librivox("0890"), librivox("0920"), librivox("0930")},
                                            m_longSpeech));
         QVERIFY(m_server.start({QStringLiteral("--jobs"), QStringLiteral("2")}));
+        QVERIFY(m_secured.start({}, QString(), QString::fromLatin1(kToken)));
+
+        // Uploads that name other files: the speech as an HLS segment and a concat list.
+        const QString segment = m_work + QStringLiteral("/local.ts");
+        QCOMPARE(TestSupport::ffmpeg({"-i", m_speech, "-c:a", "aac", "-f", "mpegts", segment}), 0);
+        QVERIFY(TestSupport::writeFile(m_work + QStringLiteral("/playlist.m3u8"),
+                                       "#EXTM3U\n#EXT-X-TARGETDURATION:10\n#EXTINF:8,\n" + segment.toUtf8()
+                                           + "\n#EXT-X-ENDLIST\n"));
+        QVERIFY(TestSupport::writeFile(m_work + QStringLiteral("/list.ffconcat"),
+                                       "ffconcat version 1.0\nfile " + segment.toUtf8() + "\n"));
+        m_sleeper = m_work + QStringLiteral("/sleeper");
+        QVERIFY(TestSupport::writeFile(m_sleeper, "#!/bin/sh\nexec sleep 120\n"));
+        QVERIFY(QFile::setPermissions(m_sleeper, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
 
     void recognisesReadSpeechIntoCaptions()
@@ -173,58 +197,118 @@ private slots:
         QVERIFY2(all.contains(QStringLiteral("consider")), qPrintable(all));
     }
 
-    void unsupportedLanguageFailsAtOnce()
+    void requestsGetProperAnswers_data()
     {
-        QElapsedTimer clock;
-        clock.start();
-        const Answer answer = recognise(m_server.url(), m_longSpeech, QStringLiteral("fr-FR"));
-        QVERIFY(clock.elapsed() < 3000);
-        QCOMPARE(answer.status, 200);
-        QCOMPARE(answer.json.value("state").toString(), QStringLiteral("failed"));
-        QVERIFY(answer.json.value("message").toString().contains(QStringLiteral("fr-FR")));
-    }
-
-    void badRequestsGetJsonErrors_data()
-    {
+        QTest::addColumn<bool>("secured");
         QTest::addColumn<QByteArray>("request");
         QTest::addColumn<int>("status");
-        const QByteArray boundary = "XyZ";
-        const auto post = [&](const QByteArray& path, const QByteArray& type, const QByteArray& body) {
-            return "POST " + path + " HTTP/1.1\r\nHost: x\r\nConnection: close\r\nContent-Type: " + type
+        QTest::addColumn<QString>("expected");
+        const auto get = [](const QByteArray& path, const QByteArray& headers = "Host: HOST\r\n") {
+            return "GET " + path + " HTTP/1.1\r\n" + headers + "Connection: close\r\n\r\n";
+        };
+        const auto post = [](const QByteArray& path, const QByteArray& type, const QByteArray& body) {
+            return "POST " + path + " HTTP/1.1\r\nHost: HOST\r\nConnection: close\r\nContent-Type: " + type
                    + "\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body;
         };
-        const QByteArray multipart = "multipart/form-data; boundary=" + boundary;
+        const QByteArray multipart = "multipart/form-data; boundary=XyZ";
         const QByteArray submitPath = "/api/speech/submit?language=en-US";
-        QTest::newRow("unknown path") << QByteArray("GET /nothing HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n") << 404;
-        QTest::newRow("unknown task") << QByteArray("GET /api/speech/query?task_id=abc HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n") << 404;
-        QTest::newRow("no task id") << QByteArray("GET /api/speech/query HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n") << 404;
-        QTest::newRow("not multipart") << post(submitPath, "application/json", "{}") << 400;
-        QTest::newRow("no language") << post("/api/speech/submit", multipart,
-                                             "--XyZ\r\nContent-Disposition: form-data; name=\"file\"; filename=\"a\"\r\n\r\nabc\r\n--XyZ--\r\n")
-                                     << 400;
-        QTest::newRow("no file part") << post(submitPath, multipart,
-                                              "--XyZ\r\nContent-Disposition: form-data; name=\"other\"\r\n\r\nabc\r\n--XyZ--\r\n")
-                                      << 400;
-        QTest::newRow("empty file") << post(submitPath, multipart,
-                                            "--XyZ\r\nContent-Disposition: form-data; name=\"file\"; filename=\"a\"\r\n\r\n\r\n--XyZ--\r\n")
-                                    << 400;
-        QTest::newRow("wrong boundary") << post(submitPath, multipart,
-                                                "--Other\r\nContent-Disposition: form-data; name=\"file\"\r\n\r\nabc\r\n--Other--\r\n")
-                                        << 400;
-        QTest::newRow("cut-off part") << post(submitPath, multipart, "--XyZ\r\nContent-Disposition: form-da") << 400;
-        QTest::newRow("garbage") << QByteArray("HELLO THERE\r\n\r\n") << 400;
+        const QByteArray filePart = "--XyZ\r\nContent-Disposition: form-data; name=\"file\"; filename=\"a\"\r\n\r\nabc\r\n--XyZ--\r\n";
+        const QByteArray health = "/api/speech/health";
+        QTest::newRow("unknown path") << false << get("/nothing") << 404 << "no such address";
+        QTest::newRow("unknown task") << false << get("/api/speech/query?task_id=abc") << 404 << "knows no task";
+        QTest::newRow("no task id") << false << get("/api/speech/query") << 404 << "knows no task";
+        QTest::newRow("not multipart") << false << post(submitPath, "application/json", "{}") << 400 << "multipart";
+        QTest::newRow("no language") << false << post("/api/speech/submit", multipart, filePart) << 400 << "language";
+        QTest::newRow("no file part") << false
+                                      << post(submitPath, multipart, "--XyZ\r\nContent-Disposition: form-data; name=\"other\"\r\n\r\nabc\r\n--XyZ--\r\n")
+                                      << 400 << "no part named";
+        QTest::newRow("empty file") << false
+                                    << post(submitPath, multipart, "--XyZ\r\nContent-Disposition: form-data; name=\"file\"; filename=\"a\"\r\n\r\n\r\n--XyZ--\r\n")
+                                    << 400 << "empty";
+        QTest::newRow("wrong boundary") << false
+                                        << post(submitPath, multipart, "--Other\r\nContent-Disposition: form-data; name=\"file\"\r\n\r\nabc\r\n--Other--\r\n")
+                                        << 400 << "malformed";
+        QTest::newRow("cut-off part") << false << post(submitPath, multipart, "--XyZ\r\nContent-Disposition: form-da") << 400 << "malformed";
+        QTest::newRow("garbage") << false << QByteArray("HELLO THERE\r\n\r\n") << 400 << "malformed";
+        // Refused before the upload is read, and nothing is kept of it.
+        QTest::newRow("no model for the language") << false << post("/api/speech/submit?language=fr-FR", multipart, filePart)
+                                                   << 422 << "fr-FR";
+        QTest::newRow("too large") << false
+                                   << QByteArray("POST " + submitPath + " HTTP/1.1\r\nHost: HOST\r\nConnection: close\r\n"
+                                                 "Content-Type: " + multipart + "\r\nContent-Length: 99999999999\r\n\r\n")
+                                   << 413 << "larger";
+        QByteArray chunked = "POST " + submitPath + " HTTP/1.1\r\nHost: HOST\r\nContent-Type: " + multipart
+                             + "\r\nTransfer-Encoding: chunked\r\n\r\n";
+        for (const QByteArray& piece : {filePart.left(40), filePart.mid(40), QByteArray()}) {
+            chunked += QByteArray::number(piece.size(), 16) + "\r\n" + piece + "\r\n";
+        }
+        QTest::newRow("chunked upload") << false << chunked << 200 << "task_id";
+        QTest::newRow("post without a length") << false
+                                               << QByteArray("POST /api/speech/cancel?task_id=abc HTTP/1.1\r\nHost: HOST\r\n\r\n")
+                                               << 404 << "knows no task";
+        QTest::newRow("foreign host") << false << get(health, "Host: rebound.example:PORT\r\n") << 403 << "own address";
+        QTest::newRow("other port") << false << get(health, "Host: 127.0.0.1:1\r\n") << 403 << "own address";
+        QTest::newRow("no host") << false << get(health, "") << 403 << "own address";
+        QTest::newRow("localhost") << false << get(health, "Host: localhost:PORT\r\n") << 200 << "ok";
+        QTest::newRow("from a web page") << false << get(health, "Host: HOST\r\nOrigin: http://HOST\r\n") << 403 << "web pages";
+        QTest::newRow("no token") << true << get(health) << 401 << "token";
+        QTest::newRow("wrong token") << true << get(health, "Host: HOST\r\nAuthorization: Bearer 0123456789abcdeX\r\n") << 401
+                                     << "token";
+        QTest::newRow("token") << true << get(health, "Host: HOST\r\nAuthorization: Bearer " + QByteArray(kToken) + "\r\n")
+                               << 200 << "ok";
+        QTest::newRow("token, foreign host")
+            << true << get(health, "Host: rebound.example:PORT\r\nAuthorization: Bearer " + QByteArray(kToken) + "\r\n") << 403
+            << "own address";
     }
 
-    void badRequestsGetJsonErrors()
+    void requestsGetProperAnswers()
     {
+        QFETCH(bool, secured);
         QFETCH(QByteArray, request);
         QFETCH(int, status);
-        const Answer answer = raw(request);
+        QFETCH(QString, expected);
+        SpeechdProcess& service = secured ? m_secured : m_server;
+        const Answer answer = raw(service.port(), request.replace("PORT", QByteArray::number(service.port())));
         QCOMPARE(answer.status, status);
         QVERIFY2(answer.isJsonObject, answer.body.constData());
-        QVERIFY(!answer.json.value("message").toString().isEmpty());
+        QVERIFY2(answer.body.contains(expected.toUtf8()), answer.body.constData());
+        QVERIFY2(answer.head.toLower().count("\r\nconnection:") <= 1, answer.head.constData());
+        if (status >= 400) {
+            QVERIFY(!answer.json.value("message").toString().isEmpty());
+            QVERIFY2(answer.head.contains("\r\nConnection: close"), answer.head.constData());
+        }
         // The service is still there for the next client.
         QCOMPARE(finish(m_network.get(QNetworkRequest(QUrl(m_server.url() + "/api/speech/health")))).status, 200);
+    }
+
+    void uploadsAreDecodedAlone_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("playlist naming a local file") << QStringList() << "playlist.m3u8" << "no audio";
+        QTest::newRow("concat list naming a local file") << QStringList() << "list.ffconcat" << "no audio";
+        QTest::newRow("longer than accepted") << QStringList{"--max-duration", "5"} << "long.mp3"
+                                              << "longer than the speech service accepts (5 seconds)";
+        QTest::newRow("decoding takes too long") << QStringList{"--ffmpeg", "SLEEPER", "--decode-timeout", "1"}
+                                                 << "speech.mp3" << "took too long";
+        QTest::newRow("no decoder") << QStringList{"--ffmpeg", "/nonexistent/ffmpeg"} << "speech.mp3" << "could not run";
+    }
+
+    void uploadsAreDecodedAlone()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, file);
+        QFETCH(QString, expected);
+        SpeechdProcess service;
+        QVERIFY(arguments.isEmpty() || service.start(arguments.replaceInStrings(QStringLiteral("SLEEPER"), m_sleeper)));
+        const Answer answer = recognise(arguments.isEmpty() ? m_server.url() : service.url(),
+                                        m_work + QLatin1Char('/') + file, QStringLiteral("en-US"));
+        QCOMPARE(answer.json.value("state").toString(), QStringLiteral("failed"));
+        const QString message = answer.json.value("message").toString();
+        QVERIFY2(message.contains(expected), qPrintable(message));
+        // What failed, in the user's words: no paths, no decoder output.
+        QVERIFY2(!message.contains(QLatin1Char('/')) && !message.contains(QStringLiteral("ffmpeg")), qPrintable(message));
     }
 
     void nonAudioAndTruncatedUploads()
@@ -299,9 +383,19 @@ private slots:
         QCOMPARE(cancelled.json.value("state").toString(), QStringLiteral("failed"));
         QVERIFY(cancelled.json.value("message").toString().contains(QStringLiteral("cancelled")));
 
-        const Answer done = finish(query(queued.url(), first.json.value("task_id").toString()));
+        const QString firstId = first.json.value("task_id").toString();
+        const Answer done = finish(query(queued.url(), firstId));
         QCOMPARE(done.json.value("state").toString(), QStringLiteral("success"));
         QCOMPARE(finish(submit(queued.url(), m_speech, QStringLiteral("en-US"))).status, 200);
+
+        // Finished results are kept for their query, but not without end (16 here).
+        const QString textPath = m_work + QStringLiteral("/text3.mp3");
+        QVERIFY(TestSupport::writeFile(textPath, QByteArray("plain text")));
+        for (int i = 0; i < 17; ++i) {
+            QCOMPARE(recognise(queued.url(), textPath, QStringLiteral("en-US")).json.value("state").toString(),
+                     QStringLiteral("failed"));
+        }
+        QCOMPARE(finish(query(queued.url(), firstId)).status, 404);
     }
 
     void concurrentClientsGetTheSameResult()
@@ -327,23 +421,125 @@ private slots:
         }
     }
 
-    void temporaryFilesAreRemoved()
+    void temporaryFilesAreRemovedAndSwept()
     {
         const QString tmp = m_work + QStringLiteral("/service-tmp");
+        const auto folders = [&tmp]() { return QDir(tmp).entryList({"glimmer-speechd-*"}, QDir::Dirs); };
+        SpeechdProcess running;
+        SpeechdProcess killed;
+        QVERIFY(running.start({}, tmp));
+        QVERIFY(killed.start({}, tmp));
+        const QStringList both = folders();
+        QCOMPARE(both.size(), 2);
+        ::kill(static_cast<pid_t>(killed.process().processId()), SIGKILL);
+        QVERIFY(killed.process().waitForFinished(5000));
+        QCOMPARE(folders(), both); // left behind
+
+        // The next start sweeps the folder of the killed service, not the running one's.
         SpeechdProcess service;
         QVERIFY(service.start({}, tmp));
+        const QString runningFolder = QStringLiteral("glimmer-speechd-%1-").arg(running.process().processId());
+        QCOMPARE(folders().size(), 2);
+        QCOMPARE(folders().filter(runningFolder).size(), 1);
+        const QString own = folders().filter(QStringLiteral("glimmer-speechd-%1-").arg(service.process().processId())).value(0);
+        QVERIFY(!own.isEmpty());
+
         QCOMPARE(recognise(service.url(), m_speech, QStringLiteral("en-US")).json.value("state").toString(),
                  QStringLiteral("success"));
         const QString textPath = m_work + QStringLiteral("/text2.mp3");
         QVERIFY(TestSupport::writeFile(textPath, QByteArray("plain text")));
         QCOMPARE(recognise(service.url(), textPath, QStringLiteral("en-US")).json.value("state").toString(),
                  QStringLiteral("failed"));
-        const QStringList folders = QDir(tmp).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-        QCOMPARE(folders.size(), 1);
-        QVERIFY(QDir(tmp + QLatin1Char('/') + folders.first()).entryList(QDir::Files).isEmpty());
+        QVERIFY(QDir(tmp + QLatin1Char('/') + own).entryList(QDir::Files).isEmpty());
+
+        // A kept-alive connection does not hold up the end.
+        QCOMPARE(finish(m_network.get(QNetworkRequest(QUrl(service.url() + "/api/speech/health")))).status, 200);
+        QElapsedTimer clock;
+        clock.start();
         service.stop();
+        QVERIFY2(clock.elapsed() < 3000, qPrintable(QString::number(clock.elapsed())));
+        QCOMPARE(service.process().exitStatus(), QProcess::NormalExit);
         QCOMPARE(service.process().exitCode(), 0);
-        QVERIFY(QDir(tmp).entryList(QDir::Dirs | QDir::NoDotAndDotDot).isEmpty());
+        const QStringList left = folders();
+        QCOMPARE(left.size(), 1);
+        QVERIFY(left.first().startsWith(runningFolder));
+    }
+
+    void slowAndWaitingClientsDoNotLockOthersOut()
+    {
+        // Recognitions never end here (the decoder sleeps), so queries wait.
+        SpeechdProcess service;
+        QVERIFY(service.start({"--request-timeout", "4", "--idle-timeout", "1", "--max-queue", "2", "--ffmpeg", m_sleeper}));
+        const Answer running = finish(submit(service.url(), m_speech, QStringLiteral("en-US")));
+        QCOMPARE(running.status, 200);
+        const QByteArray taskId = running.json.value("task_id").toString().toUtf8();
+
+        const QByteArray host = "Host: 127.0.0.1:" + QByteArray::number(service.port()) + "\r\n";
+        QHash<QTcpSocket*, QByteArray> received;
+        QObject sockets; // gone before `received`
+        const auto open = [&](const QByteArray& bytes) {
+            auto* socket = new QTcpSocket(&sockets);
+            connect(socket, &QTcpSocket::readyRead, socket, [socket, &received]() { received[socket] += socket->readAll(); });
+            socket->connectToHost(QHostAddress::LocalHost, static_cast<quint16>(service.port()));
+            socket->write(bytes);
+            received[socket];
+            return socket;
+        };
+        QList<QTcpSocket*> slow;
+        QList<QTcpSocket*> waiting;
+        for (int i = 0; i < 20; ++i) {
+            slow << open("GET /api/speech/health HTTP/1.1\r\nHo");
+            waiting << open("GET /api/speech/query?task_id=" + taskId + " HTTP/1.1\r\n" + host + "\r\n");
+        }
+        for (int i = 0; i < 3; ++i) {
+            slow << open("POST /api/speech/submit?language=en-US HTTP/1.1\r\n" + host
+                         + "Content-Type: multipart/form-data; boundary=XyZ\r\nContent-Length: 100000\r\n\r\n"
+                           "--XyZ\r\nContent-Disposition: form-data; name=\"file\"; filename=\"a\"\r\n\r\nabc");
+        }
+        QTcpSocket* idle = open(QByteArray());
+        QTRY_VERIFY_WITH_TIMEOUT(std::all_of(slow.begin(), slow.end(), [](QTcpSocket* socket) {
+                                     return socket->state() == QAbstractSocket::ConnectedState && !socket->bytesToWrite();
+                                 }),
+                                 5000);
+
+        // Others are served at once, well before the slow ones time out.
+        QCOMPARE(finish(m_network.get(QNetworkRequest(QUrl(service.url() + "/api/speech/health"))), 2500).status, 200);
+        QCOMPARE(finish(submit(service.url(), m_speech, QStringLiteral("en-US")), 2500).status, 200);
+
+        // However they trickle, slow senders are cut off at the request's deadline.
+        QTimer trickle;
+        connect(&trickle, &QTimer::timeout, this, [&]() {
+            for (QTcpSocket* socket : slow) {
+                if (socket->state() == QAbstractSocket::ConnectedState && received.value(socket).isEmpty()) {
+                    socket->write("x");
+                }
+            }
+        });
+        trickle.start(250);
+        QTRY_VERIFY_WITH_TIMEOUT(std::all_of(slow.begin(), slow.end(), [&](QTcpSocket* socket) {
+                                     return received.value(socket).contains("}");
+                                 }),
+                                 10000);
+        trickle.stop();
+        for (QTcpSocket* socket : slow) {
+            QVERIFY2(received.value(socket).startsWith("HTTP/1.1 408 "), received.value(socket).constData());
+        }
+        // An idle connection is closed without a word.
+        QTRY_COMPARE_WITH_TIMEOUT(idle->state(), QAbstractSocket::UnconnectedState, 5000);
+        QVERIFY(received.value(idle).isEmpty());
+
+        // The waiting queries were there all along and get the answer.
+        for (QTcpSocket* socket : waiting) {
+            QVERIFY(received.value(socket).isEmpty());
+        }
+        QCOMPARE(finish(m_network.post(QNetworkRequest(QUrl(service.url() + "/api/speech/cancel?task_id=" + taskId)),
+                                       QByteArray()))
+                     .status,
+                 200);
+        QTRY_VERIFY_WITH_TIMEOUT(std::all_of(waiting.begin(), waiting.end(), [&](QTcpSocket* socket) {
+                                     return received.value(socket).contains("cancelled");
+                                 }),
+                                 5000);
     }
 
     void forwardsToTranscriptionServer()

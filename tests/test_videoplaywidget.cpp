@@ -1,7 +1,9 @@
 // The player panel with a real libmpv surface and media made by ffmpeg.
 #include "appconfig.h"
+#include "capturecontroller.h"
 #include "globalmanager.h"
 #include "mpvwidget.h"
+#include "playercapturesource.h"
 #include "testsupport.h"
 #include "videoplaywidget.h"
 
@@ -22,7 +24,10 @@ class Panel
 public:
     Panel()
         : widget(new VideoPlayWidget())
+        , capture(new CaptureController(new PlayerCaptureSource(widget.get()), nullptr, widget.get()))
     {
+        // The capture button's flow, as the main window wires it.
+        QObject::connect(widget.get(), &VideoPlayWidget::captureNowRequested, capture, &CaptureController::captureNow);
         mpv()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
         widget->resize(900, 640);
         widget->show();
@@ -62,6 +67,7 @@ public:
     void click(int id) { widget->getControlButton(id)->click(); }
 
     std::unique_ptr<VideoPlayWidget> widget;
+    CaptureController* capture;
     QList<MpvWidget::RestartKind> restarts;
 };
 

@@ -1,6 +1,7 @@
 #include "testsupport.h"
 
 #include "appconfig.h"
+#include "captionmanager.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -30,7 +31,7 @@ void isolate()
     QStandardPaths::setTestModeEnabled(true);
     std::setlocale(LC_NUMERIC, "C");
     AppConfig::initResources();
-    AppConfig::registerMetaTypes();
+    CaptionManager::registerMetaTypes();
     QSettings(QSettings::UserScope, AppConfig::APP_NAME, QString()).clear();
 }
 

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>截图失败</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>播放器未能跳转到指定时间点。</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>正在截图</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>无法从播放器截取画面。</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>正在应用当前样式</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -274,26 +297,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>无法转换 SRT 文件“%1”：找不到 ffmpeg。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>无法转换 SRT 文件“%1”：ffmpeg 未能及时完成。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>无法转换 SRT 文件“%1”。</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1：文件在移动到输出文件夹之前已不存在。</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>无法将 %1 移动到输出文件夹 %2，文件已保留在 %3。</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -425,14 +428,6 @@
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>Capture failed</source>
-        <translation>截图失败</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>播放器未能跳转到指定时间点。</translation>
-    </message>
     <message>
         <source>The video cannot be played</source>
         <translation>无法播放该视频</translation>
@@ -574,24 +569,22 @@
         <translation>自动生成字幕失败</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>正在截图</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>无法从播放器截取画面。</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>截取所选</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>正在应用当前样式</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>无法连接语音识别服务。</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>部分字幕未截图</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>有 %n 条字幕的开始时间在视频结束处或之后，或无法读取，已跳过。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -599,6 +592,17 @@
     <message>
         <source>OK</source>
         <translation>确定</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1：文件在移动到输出文件夹之前已不存在。</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>无法将 %1 移动到输出文件夹 %2，文件已保留在 %3。</translation>
     </message>
 </context>
 <context>
@@ -786,8 +790,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>语音识别服务在 %1 没有响应。</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>语音识别服务未能及时启动。</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>
@@ -800,6 +804,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>无法启动语音识别服务：%1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>无法转换 SRT 文件“%1”：找不到 ffmpeg。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>无法转换 SRT 文件“%1”：ffmpeg 未能及时完成。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>无法转换 SRT 文件“%1”。</translation>
     </message>
 </context>
 <context>

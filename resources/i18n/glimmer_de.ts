@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Erfassen fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>Der Player hat die gewünschte Stelle nicht erreicht.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Bilder werden erfasst</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>Das Bild konnte nicht aus dem Player erfasst werden.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Aktueller Stil wird angewendet</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -274,26 +297,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden: ffmpeg wurde nicht gefunden.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden: ffmpeg wurde nicht rechtzeitig fertig.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden.</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1: Die Datei ist verschwunden, bevor sie in den Ausgabeordner verschoben werden konnte.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>%1 konnte nicht in den Ausgabeordner %2 verschoben werden; die Datei liegt weiterhin unter %3.</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -427,14 +430,6 @@
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>Capture failed</source>
-        <translation>Erfassen fehlgeschlagen</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>Der Player hat die gewünschte Stelle nicht erreicht.</translation>
-    </message>
     <message>
         <source>The video cannot be played</source>
         <translation>Das Video kann nicht abgespielt werden</translation>
@@ -576,24 +571,23 @@
         <translation>Automatische Untertitel fehlgeschlagen</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Bilder werden erfasst</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>Das Bild konnte nicht aus dem Player erfasst werden.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Markierte erfassen</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Aktueller Stil wird angewendet</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>Der Spracherkennungsdienst ist nicht erreichbar.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Einige Untertitel wurden nicht aufgenommen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n Untertitel beginnt am oder nach dem Ende des Videos oder hat keine lesbare Startzeit und wurde übersprungen.</numerusform>
+            <numerusform>%n Untertitel beginnen am oder nach dem Ende des Videos oder haben keine lesbare Startzeit und wurden übersprungen.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -601,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1: Die Datei ist verschwunden, bevor sie in den Ausgabeordner verschoben werden konnte.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>%1 konnte nicht in den Ausgabeordner %2 verschoben werden; die Datei liegt weiterhin unter %3.</translation>
     </message>
 </context>
 <context>
@@ -788,8 +793,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>Der Spracherkennungsdienst hat unter %1 nicht geantwortet.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>Der Spracherkennungsdienst ist nicht rechtzeitig gestartet.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>
@@ -802,6 +807,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Der Spracherkennungsdienst konnte nicht gestartet werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden: ffmpeg wurde nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden: ffmpeg wurde nicht rechtzeitig fertig.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>Die SRT-Datei „%1“ konnte nicht umgewandelt werden.</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Capture failed</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>The player did not reach the requested moment.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Capturing images</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>The frame could not be captured from the player.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Applying current style</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -274,26 +297,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>The SRT file &quot;%1&quot; could not be converted.</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1: the file has vanished before it could be moved to the output folder.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>%1 could not be moved to the output folder %2; it was kept at %3.</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -427,14 +430,6 @@
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>Capture failed</source>
-        <translation>Capture failed</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>The player did not reach the requested moment.</translation>
-    </message>
     <message>
         <source>The video cannot be played</source>
         <translation>The video cannot be played</translation>
@@ -576,24 +571,23 @@
         <translation>Automatic captions failed</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Capturing images</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>The frame could not be captured from the player.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Capture checked</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Applying current style</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>The speech service could not be reached.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Some captions were not captured</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n caption starts at or after the end of the video, or has no readable start time, and was skipped.</numerusform>
+            <numerusform>%n captions start at or after the end of the video, or have no readable start time, and were skipped.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -601,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1: the file has vanished before it could be moved to the output folder.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>%1 could not be moved to the output folder %2; it was kept at %3.</translation>
     </message>
 </context>
 <context>
@@ -788,8 +793,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>The speech service did not answer at %1.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>The speech service did not start in time.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>
@@ -802,6 +807,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>The speech service could not be started: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>The SRT file &quot;%1&quot; could not be converted.</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Error en la captura</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>El reproductor no ha llegado al momento solicitado.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Capturando imágenes</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>No se ha podido capturar el fotograma del reproductor.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Aplicando el estilo actual</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -274,26 +297,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>No se ha podido convertir el archivo SRT «%1»: no se ha encontrado ffmpeg.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>No se ha podido convertir el archivo SRT «%1»: ffmpeg no terminó a tiempo.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>No se ha podido convertir el archivo SRT «%1».</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1: el archivo desapareció antes de poder moverlo a la carpeta de salida.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>No se ha podido mover %1 a la carpeta de salida %2; se ha conservado en %3.</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -427,14 +430,6 @@
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>Capture failed</source>
-        <translation>Error en la captura</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>El reproductor no ha llegado al momento solicitado.</translation>
-    </message>
     <message>
         <source>The video cannot be played</source>
         <translation>No se puede reproducir el vídeo</translation>
@@ -576,24 +571,23 @@
         <translation>Error al generar los subtítulos automáticos</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Capturando imágenes</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>No se ha podido capturar el fotograma del reproductor.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Capturar seleccionados</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Aplicando el estilo actual</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>No se pudo conectar con el servicio de reconocimiento de voz.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Algunos subtítulos no se capturaron</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n subtítulo empieza al final del vídeo o después, o no tiene una hora de inicio legible, y se ha omitido.</numerusform>
+            <numerusform>%n subtítulos empiezan al final del vídeo o después, o no tienen una hora de inicio legible, y se han omitido.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -601,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1: el archivo desapareció antes de poder moverlo a la carpeta de salida.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>No se ha podido mover %1 a la carpeta de salida %2; se ha conservado en %3.</translation>
     </message>
 </context>
 <context>
@@ -788,8 +793,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>El servicio de reconocimiento de voz no ha respondido en %1.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>El servicio de reconocimiento de voz no se ha iniciado a tiempo.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>
@@ -802,6 +807,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>No se ha podido iniciar el servicio de reconocimiento de voz: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>No se ha podido convertir el archivo SRT «%1»: no se ha encontrado ffmpeg.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>No se ha podido convertir el archivo SRT «%1»: ffmpeg no terminó a tiempo.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>No se ha podido convertir el archivo SRT «%1».</translation>
     </message>
 </context>
 <context>

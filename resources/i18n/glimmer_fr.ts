@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Échec de la capture</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>Le lecteur n’a pas atteint le moment demandé.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Capture des images</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>Impossible de capturer l’image depuis le lecteur.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Application du style actuel</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -274,26 +297,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>Impossible de convertir le fichier SRT « %1 » : ffmpeg est introuvable.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>Impossible de convertir le fichier SRT « %1 » : ffmpeg n’a pas terminé à temps.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>Impossible de convertir le fichier SRT « %1 ».</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1 : le fichier a disparu avant d’avoir pu être déplacé dans le dossier de sortie.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>Impossible de déplacer %1 dans le dossier de sortie %2 ; le fichier a été conservé dans %3.</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -427,14 +430,6 @@
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>Capture failed</source>
-        <translation>Échec de la capture</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>Le lecteur n’a pas atteint le moment demandé.</translation>
-    </message>
     <message>
         <source>The video cannot be played</source>
         <translation>Impossible de lire la vidéo</translation>
@@ -576,24 +571,23 @@
         <translation>Échec des sous-titres automatiques</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Capture des images</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>Impossible de capturer l’image depuis le lecteur.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Capturer la sélection</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Application du style actuel</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>Impossible de joindre le service de reconnaissance vocale.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Certains sous-titres n’ont pas été capturés</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n sous-titre commence à la fin de la vidéo ou après, ou n’a pas d’heure de début lisible, et a été ignoré.</numerusform>
+            <numerusform>%n sous-titres commencent à la fin de la vidéo ou après, ou n’ont pas d’heure de début lisible, et ont été ignorés.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -601,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1 : le fichier a disparu avant d’avoir pu être déplacé dans le dossier de sortie.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>Impossible de déplacer %1 dans le dossier de sortie %2 ; le fichier a été conservé dans %3.</translation>
     </message>
 </context>
 <context>
@@ -788,8 +793,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>Le service de reconnaissance vocale n’a pas répondu à l’adresse %1.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>Le service de reconnaissance vocale n’a pas démarré à temps.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>
@@ -802,6 +807,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Impossible de démarrer le service de reconnaissance vocale : %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>Impossible de convertir le fichier SRT « %1 » : ffmpeg est introuvable.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>Impossible de convertir le fichier SRT « %1 » : ffmpeg n’a pas terminé à temps.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>Impossible de convertir le fichier SRT « %1 ».</translation>
     </message>
 </context>
 <context>

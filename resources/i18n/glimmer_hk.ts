@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>截圖失敗</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>播放器未能跳至指定時間點。</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>正在截圖</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>無法從播放器擷取畫面。</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>正在套用目前樣式</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -274,26 +297,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>無法轉換 SRT 檔案「%1」：找不到 ffmpeg。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>無法轉換 SRT 檔案「%1」：ffmpeg 未能及時完成。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>無法轉換 SRT 檔案「%1」。</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1：檔案在移至輸出資料夾之前已不存在。</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>無法將 %1 移至輸出資料夾 %2，檔案已保留在 %3。</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -425,14 +428,6 @@
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>Capture failed</source>
-        <translation>截圖失敗</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>播放器未能跳至指定時間點。</translation>
-    </message>
     <message>
         <source>The video cannot be played</source>
         <translation>無法播放此影片</translation>
@@ -574,24 +569,22 @@
         <translation>自動產生字幕失敗</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>正在截圖</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>無法從播放器擷取畫面。</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>截取所選</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>正在套用目前樣式</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>無法連線至語音辨識服務。</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>部分字幕未截圖</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>有 %n 條字幕的開始時間在影片結束處或之後，或無法讀取，已略過。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -599,6 +592,17 @@
     <message>
         <source>OK</source>
         <translation>確定</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1：檔案在移至輸出資料夾之前已不存在。</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>無法將 %1 移至輸出資料夾 %2，檔案已保留在 %3。</translation>
     </message>
 </context>
 <context>
@@ -786,8 +790,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>語音辨識服務在 %1 沒有回應。</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>語音辨識服務未能及時啟動。</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>
@@ -800,6 +804,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>無法啟動語音辨識服務：%1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>無法轉換 SRT 檔案「%1」：找不到 ffmpeg。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>無法轉換 SRT 檔案「%1」：ffmpeg 未能及時完成。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>無法轉換 SRT 檔案「%1」。</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Cattura non riuscita</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>Il lettore non ha raggiunto il punto richiesto.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Cattura delle immagini</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>Impossibile catturare il fotogramma dal lettore.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Applicazione dello stile attuale</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -274,26 +297,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>Impossibile convertire il file SRT &quot;%1&quot;: ffmpeg non trovato.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>Impossibile convertire il file SRT &quot;%1&quot;: ffmpeg non ha terminato in tempo.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>Impossibile convertire il file SRT &quot;%1&quot;.</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1: il file è scomparso prima di poter essere spostato nella cartella di destinazione.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>Impossibile spostare %1 nella cartella di destinazione %2; il file è stato conservato in %3.</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -427,14 +430,6 @@
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>Capture failed</source>
-        <translation>Cattura non riuscita</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>Il lettore non ha raggiunto il punto richiesto.</translation>
-    </message>
     <message>
         <source>The video cannot be played</source>
         <translation>Impossibile riprodurre il video</translation>
@@ -576,24 +571,23 @@
         <translation>Sottotitoli automatici non riusciti</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Cattura delle immagini</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>Impossibile catturare il fotogramma dal lettore.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Cattura selezionati</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Applicazione dello stile attuale</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>Impossibile raggiungere il servizio di riconoscimento vocale.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Alcuni sottotitoli non sono stati catturati</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n sottotitolo inizia alla fine del video o dopo, oppure non ha un orario di inizio leggibile, ed è stato saltato.</numerusform>
+            <numerusform>%n sottotitoli iniziano alla fine del video o dopo, oppure non hanno un orario di inizio leggibile, e sono stati saltati.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -601,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1: il file è scomparso prima di poter essere spostato nella cartella di destinazione.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>Impossibile spostare %1 nella cartella di destinazione %2; il file è stato conservato in %3.</translation>
     </message>
 </context>
 <context>
@@ -788,8 +793,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>Il servizio di riconoscimento vocale non ha risposto all’indirizzo %1.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>Il servizio di riconoscimento vocale non si è avviato in tempo.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>
@@ -802,6 +807,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Impossibile avviare il servizio di riconoscimento vocale: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>Impossibile convertire il file SRT &quot;%1&quot;: ffmpeg non trovato.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>Impossibile convertire il file SRT &quot;%1&quot;: ffmpeg non ha terminato in tempo.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>Impossibile convertire il file SRT &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>

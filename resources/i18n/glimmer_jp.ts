@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>キャプチャに失敗しました</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>プレーヤーが指定した位置に移動できませんでした。</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>画像をキャプチャしています</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>プレーヤーからフレームをキャプチャできませんでした。</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>現在のスタイルを適用しています</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -274,26 +297,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>SRT ファイル「%1」を変換できませんでした：ffmpeg が見つかりません。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>SRT ファイル「%1」を変換できませんでした：ffmpeg が時間内に終了しませんでした。</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>SRT ファイル「%1」を変換できませんでした。</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1：出力フォルダーに移動する前にファイルが見つからなくなりました。</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>%1 を出力フォルダー %2 に移動できなかったため、%3 に残しました。</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -425,14 +428,6 @@
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>Capture failed</source>
-        <translation>キャプチャに失敗しました</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>プレーヤーが指定した位置に移動できませんでした。</translation>
-    </message>
     <message>
         <source>The video cannot be played</source>
         <translation>動画を再生できません</translation>
@@ -574,24 +569,22 @@
         <translation>自動字幕の生成に失敗しました</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>画像をキャプチャしています</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>プレーヤーからフレームをキャプチャできませんでした。</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>選択をキャプチャ</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>現在のスタイルを適用しています</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>音声認識サービスに接続できませんでした。</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>一部の字幕はキャプチャされませんでした</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n 件の字幕は動画の終わり以降に始まるか、開始時刻を読み取れないため、スキップされました。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -599,6 +592,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1：出力フォルダーに移動する前にファイルが見つからなくなりました。</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>%1 を出力フォルダー %2 に移動できなかったため、%3 に残しました。</translation>
     </message>
 </context>
 <context>
@@ -786,8 +790,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>音声認識サービスが %1 で応答しませんでした。</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>音声認識サービスが時間内に起動しませんでした。</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>
@@ -800,6 +804,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>音声認識サービスを起動できませんでした：%1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>SRT ファイル「%1」を変換できませんでした：ffmpeg が見つかりません。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>SRT ファイル「%1」を変換できませんでした：ffmpeg が時間内に終了しませんでした。</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>SRT ファイル「%1」を変換できませんでした。</translation>
     </message>
 </context>
 <context>

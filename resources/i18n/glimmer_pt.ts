@@ -201,6 +201,29 @@
     </message>
 </context>
 <context>
+    <name>CaptureController</name>
+    <message>
+        <source>Capture failed</source>
+        <translation>Falha na captura</translation>
+    </message>
+    <message>
+        <source>The player did not reach the requested moment.</source>
+        <translation>O player não chegou ao momento solicitado.</translation>
+    </message>
+    <message>
+        <source>Capturing images</source>
+        <translation>Capturando imagens</translation>
+    </message>
+    <message>
+        <source>The frame could not be captured from the player.</source>
+        <translation>Não foi possível capturar o quadro do player.</translation>
+    </message>
+    <message>
+        <source>Applying current style</source>
+        <translation>Aplicando o estilo atual</translation>
+    </message>
+</context>
+<context>
     <name>CheckUpdateDialog</name>
     <message>
         <source>Version: %1</source>
@@ -274,26 +297,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
-        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;: o ffmpeg não foi encontrado.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
-        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;: o ffmpeg não terminou a tempo.</translation>
-    </message>
-    <message>
-        <source>The SRT file &quot;%1&quot; could not be converted.</source>
-        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;.</translation>
-    </message>
-    <message>
-        <source>%1: the file has vanished before it could be moved to the output folder.</source>
-        <translation>%1: o arquivo desapareceu antes de ser movido para a pasta de saída.</translation>
-    </message>
-    <message>
-        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
-        <translation>Não foi possível mover %1 para a pasta de saída %2; o arquivo foi mantido em %3.</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -427,14 +430,6 @@
 </context>
 <context>
     <name>MainWindow</name>
-    <message>
-        <source>Capture failed</source>
-        <translation>Falha na captura</translation>
-    </message>
-    <message>
-        <source>The player did not reach the requested moment.</source>
-        <translation>O player não chegou ao momento solicitado.</translation>
-    </message>
     <message>
         <source>The video cannot be played</source>
         <translation>Não é possível reproduzir o vídeo</translation>
@@ -576,24 +571,23 @@
         <translation>Falha nas legendas automáticas</translation>
     </message>
     <message>
-        <source>Capturing images</source>
-        <translation>Capturando imagens</translation>
-    </message>
-    <message>
-        <source>The frame could not be captured from the player.</source>
-        <translation>Não foi possível capturar o quadro do player.</translation>
-    </message>
-    <message>
         <source>Capture checked</source>
         <translation>Capturar selecionadas</translation>
     </message>
     <message>
-        <source>Applying current style</source>
-        <translation>Aplicando o estilo atual</translation>
-    </message>
-    <message>
         <source>The speech service could not be reached.</source>
         <translation>Não foi possível acessar o serviço de reconhecimento de fala.</translation>
+    </message>
+    <message>
+        <source>Some captions were not captured</source>
+        <translation>Algumas legendas não foram capturadas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n caption(s) start at or after the end of the video, or have no readable start time, and were skipped.</source>
+        <translation>
+            <numerusform>%n legenda começa no fim do vídeo ou depois, ou não tem um início legível, e foi ignorada.</numerusform>
+            <numerusform>%n legendas começam no fim do vídeo ou depois, ou não têm um início legível, e foram ignoradas.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -601,6 +595,17 @@
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OutputFiles</name>
+    <message>
+        <source>%1: the file has vanished before it could be moved to the output folder.</source>
+        <translation>%1: o arquivo desapareceu antes de ser movido para a pasta de saída.</translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the output folder %2; it was kept at %3.</source>
+        <translation>Não foi possível mover %1 para a pasta de saída %2; o arquivo foi mantido em %3.</translation>
     </message>
 </context>
 <context>
@@ -788,8 +793,8 @@
 <context>
     <name>SpeechService</name>
     <message>
-        <source>The speech service did not answer at %1.</source>
-        <translation>O serviço de reconhecimento de fala não respondeu em %1.</translation>
+        <source>The speech service did not start in time.</source>
+        <translation>O serviço de reconhecimento de fala não foi iniciado a tempo.</translation>
     </message>
     <message>
         <source>The speech service program is missing: %1</source>
@@ -802,6 +807,21 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Não foi possível iniciar o serviço de reconhecimento de fala: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SubtitleConverter</name>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg was not found.</source>
+        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;: o ffmpeg não foi encontrado.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted: ffmpeg did not finish in time.</source>
+        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;: o ffmpeg não terminou a tempo.</translation>
+    </message>
+    <message>
+        <source>The SRT file &quot;%1&quot; could not be converted.</source>
+        <translation>Não foi possível converter o arquivo SRT &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>

@@ -1,14 +1,47 @@
 #include "captioninfo.h"
 
+#include "asstime.h"
+
+#include <atomic>
+
+namespace {
+std::atomic<int> g_liveRecords{0};
+} // namespace
+
+CaptionInfo::CaptionInfo()
+{
+    ++g_liveRecords;
+}
+
 CaptionInfo::~CaptionInfo()
 {
     delete captionStyle;
     delete captionEdit;
+    --g_liveRecords;
 }
 
 CaptionInfo::CaptionInfo(const CaptionInfo& other)
 {
+    ++g_liveRecords;
     *this = other;
+}
+
+int CaptionInfo::liveCount()
+{
+    return g_liveRecords.load();
+}
+
+void CaptionInfo::setTimes(const QString& startText, const QString& endText)
+{
+    start = startText;
+    end = endText;
+    m_startMs = AssTime::parse(startText);
+    m_endMs = AssTime::parse(endText);
+}
+
+void CaptionInfo::setTimesMs(int startMs, int endMs)
+{
+    setTimes(AssTime::format(startMs), AssTime::format(endMs));
 }
 
 CaptionInfo& CaptionInfo::operator=(const CaptionInfo& other)
@@ -21,6 +54,8 @@ CaptionInfo& CaptionInfo::operator=(const CaptionInfo& other)
     layer = other.layer;
     start = other.start;
     end = other.end;
+    m_startMs = other.m_startMs;
+    m_endMs = other.m_endMs;
     style = other.style;
     actor = other.actor;
     marginL = other.marginL;

@@ -2,6 +2,10 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "assreader.h"
+#include "asstime.h"
+#include "asswriter.h"
+#include "speechreply.h"
 #include "subtitleencoding.h"
 
 #include <QDebug>
@@ -20,78 +24,10 @@
 #include <limits>
 
 namespace {
-const QString kDefaultStyleTemplate = QStringLiteral(
-    "Style: Default,%1,%2,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,1,1,2,20,20,20,1");
-const QString kStyleFormat = QStringLiteral(
-    "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, Bold, "
-    "Italic, Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, "
-    "Alignment, MarginL, MarginR, MarginV, Encoding");
-const QString kEventFormat
-    = QStringLiteral("Format: Layer, Start, End, Style, Actor, MarginL, MarginR, MarginV, Effect, Text");
-const QString kEventTemplate = QStringLiteral("Dialogue: 0,%1,%2,%4,,0,0,0,,%3");
-const QString kEditedEventTemplate = QStringLiteral("Dialogue: 0,%1,%2,%4,,0,0,0,,%5%3");
-const QString kOverrideTemplate = QStringLiteral("{\\fs%1\\bord%4\\shad%5\\pos(%2,%3)}");
-const QString kStylePrefix = QStringLiteral("Style: ");
 const QString kStyleAll = QStringLiteral("StyleAll");
 
 // Anything larger is not a subtitle file (a video picked by mistake, say).
 constexpr qint64 kMaxSubtitleFileSize = 256 * 1024 * 1024;
-
-QString defaultStyleLine()
-{
-    return kDefaultStyleTemplate.arg(QStringLiteral("Arial")).arg(18);
-}
-
-// Style numbers may be written as decimals ("20.5"); a missing or garbled one
-// keeps the default rather than giving an invisible caption.
-int styleNumber(const QString& text, int fallback)
-{
-    bool ok = false;
-    const double value = text.toDouble(&ok);
-    if (!ok || value < 0 || value > 10000) {
-        return fallback;
-    }
-    return static_cast<int>(value);
-}
-
-CaptionEdit* makeEdit(const CaptionStyle& style, const QString& text)
-{
-    auto* edit = new CaptionEdit;
-    const CaptionEdit defaults;
-    edit->fontSize = styleNumber(style.fontsize, defaults.fontSize);
-    edit->border = styleNumber(style.outline, defaults.border);
-    edit->x = 192;
-    edit->y = 268;
-    edit->text = text;
-    return edit;
-}
-
-// A line break inside a caption would end the event line and drop the rest.
-QString eventText(const QString& text)
-{
-    if (!text.contains(QLatin1Char('\n')) && !text.contains(QLatin1Char('\r'))) {
-        return text;
-    }
-    QString copy = text;
-    copy.replace(QLatin1String("\r\n"), QLatin1String("\\N"));
-    copy.replace(QLatin1Char('\n'), QLatin1String("\\N"));
-    copy.replace(QLatin1Char('\r'), QLatin1String("\\N"));
-    return copy;
-}
-
-// Service times are integers; anything else reads as 0.
-int jsonMs(const QJsonValue& value)
-{
-    if (!value.isDouble()) {
-        return 0;
-    }
-    const double ms = value.toDouble();
-    if (ms != static_cast<double>(static_cast<qint64>(ms)) || ms < std::numeric_limits<int>::min()
-        || ms > std::numeric_limits<int>::max()) {
-        return 0;
-    }
-    return static_cast<int>(ms);
-}
 
 int clampToInt(qint64 value)
 {
@@ -103,6 +39,14 @@ CaptionManager* CaptionManager::instance()
 {
     static CaptionManager* s_instance = new CaptionManager();
     return s_instance;
+}
+
+void CaptionManager::registerMetaTypes()
+{
+    qRegisterMetaType<CaptionInfo>("CaptionInfo");
+    qRegisterMetaType<CaptionEdit>("CaptionEdit");
+    AppConfig::registerMetaTypes();
+    qRegisterMetaType<CaptionInfo*>("CaptionInfo *");
 }
 
 CaptionManager::CaptionManager(QObject* parent)
@@ -208,7 +152,24 @@ CaptionInfo* CaptionManager::getCaptionDataByIndex(int index) const
 
 void CaptionManager::clearCaptions()
 {
+    replaceCaptions({});
+}
+
+void CaptionManager::replaceCaptions(const QList<CaptionInfo*>& captions)
+{
+    // Everyone holding a pointer lets go of it before the records go.
+    emit aboutToReplaceCaptions();
+    const QList<CaptionInfo*> old = m_captions;
+    m_captions = captions;
+    qDeleteAll(old);
+}
+
+QList<CaptionInfo*> CaptionManager::takeCaptions()
+{
+    emit aboutToReplaceCaptions();
+    const QList<CaptionInfo*> taken = m_captions;
     m_captions.clear();
+    return taken;
 }
 
 int CaptionManager::getMaxTextWidth() const
@@ -251,77 +212,22 @@ void CaptionManager::reportLoadError(const QString& text)
 
 QString CaptionManager::formatAssTime(int ms)
 {
-    const int value = qMax(0, ms);
-    return QStringLiteral("%1:%2:%3.%4")
-        .arg(value / 3600000)
-        .arg((value / 60000) % 60)
-        .arg((value / 1000) % 60)
-        .arg((value % 1000) / 10);
+    return AssTime::format(ms);
 }
 
 int CaptionManager::parseAssTime(const QString& text)
 {
-    // H:M:S[.F], where F is a count of hundredths whatever its length, as
-    // renderers read it: "0:0:5.3" is 5030 ms, "0:00:05.30" is 5300 ms.
-    const QStringView view = QStringView(text).trimmed();
-    qint64 parts[4] = {0, 0, 0, 0};
-    int field = 0;
-    int digits = 0;
-    for (const QChar ch : view) {
-        if (ch.isDigit() && ch.unicode() < 128) {
-            parts[field] = parts[field] * 10 + (ch.unicode() - '0');
-            if (++digits > 9) {
-                return -1;
-            }
-        } else if (ch == QLatin1Char(':') && field < 2 && digits > 0) {
-            ++field;
-            digits = 0;
-        } else if (ch == QLatin1Char('.') && field == 2 && digits > 0) {
-            ++field;
-            digits = 0;
-        } else {
-            return -1;
-        }
-    }
-    if (field < 2 || digits == 0) {
-        return -1;
-    }
-    const qint64 ms = ((parts[0] * 60 + parts[1]) * 60 + parts[2]) * 1000 + parts[3] * 10;
-    return ms > std::numeric_limits<int>::max() ? -1 : static_cast<int>(ms);
+    return AssTime::parse(text);
 }
 
 CaptionStyle* CaptionManager::parseStyleLine(const QString& line)
 {
-    auto* style = new CaptionStyle;
-    const QString body = line.startsWith(kStylePrefix) ? line.mid(kStylePrefix.size()) : line;
-    style->fields = body.split(QLatin1Char(','));
-    QString* targets[] = {&style->name,         &style->fontname,     &style->fontsize,
-                          &style->primaryColour, &style->secondaryColour, &style->outlineColour,
-                          &style->backColour,   &style->bold,         &style->italic,
-                          &style->underline,    &style->strikeOut,    &style->scaleX,
-                          &style->scaleY,       &style->spacing,      &style->angle,
-                          &style->borderStyle,  &style->outline,      &style->shadow,
-                          &style->alignment,    &style->marginL,      &style->marginR,
-                          &style->marginV,      &style->encoding};
-    const int count = qMin<int>(style->fields.size(), static_cast<int>(sizeof(targets) / sizeof(targets[0])));
-    for (int i = 0; i < count; ++i) {
-        *targets[i] = style->fields.at(i).trimmed();
-    }
-    return style;
+    return AssWriter::parseStyleLine(line);
 }
 
 QString CaptionManager::formatStyleLine(const CaptionStyle& style)
 {
-    // Joined rather than filled with arg(): a field holding "%1" stays as written.
-    const QStringList fields{style.name,         style.fontname,        style.fontsize,
-                             style.primaryColour, style.secondaryColour, style.outlineColour,
-                             style.backColour,   style.bold,            style.italic,
-                             style.underline,    style.strikeOut,       style.scaleX,
-                             style.scaleY,       style.spacing,         style.angle,
-                             style.borderStyle,  style.outline,         style.shadow,
-                             style.alignment,    style.marginL,         style.marginR,
-                             style.marginV,      style.encoding};
-    return kStylePrefix + fields.join(QLatin1Char(','));
+    return AssWriter::formatStyleLine(style);
 }
 
 bool CaptionManager::openWorkingFile(QFile& file, const char* failureLog) const
@@ -334,22 +240,6 @@ bool CaptionManager::openWorkingFile(QFile& file, const char* failureLog) const
     return true;
 }
 
-void CaptionManager::writeHeader(QTextStream& stream) const
-{
-    // No PlayResX/PlayResY on purpose: positions are meant in the renderer's
-    // default 384x288 script space.
-    stream << "[Script Info]\n"
-           << "; Script generated by " << AppConfig::APP_NAME << '\n'
-           << "Title: Your Subtitle Title\n"
-           << "ScriptType: v4.00+\n"
-           << "WrapStyle: 0\n"
-           << ", MarginL, MarginR, MarginV, Effect, Text\n"
-           << "empty caption:\n"
-           << '\n'
-           << "[V4+ Styles]\n"
-           << kStyleFormat << '\n';
-}
-
 bool CaptionManager::createCaptions(const QByteArray& json, bool save)
 {
     if (save) {
@@ -357,31 +247,29 @@ bool CaptionManager::createCaptions(const QByteArray& json, bool save)
         GlobalManager::writeFileContent(getCaptionPath(), QString::fromUtf8(json.constData()));
     }
 
-    const QJsonArray utterances
-        = QJsonDocument::fromJson(json).object().value(QStringLiteral("utterances")).toArray();
-    clearCaptions();
-    const QString styleLine = defaultStyleLine();
+    const QList<SpeechReply::Utterance> utterances = SpeechReply::parse(json).utterances();
+    const QString styleLine = AssWriter::defaultStyleLine();
+    QList<CaptionInfo*> captions;
+    captions.reserve(utterances.size());
     for (int i = 0; i < utterances.size(); ++i) {
-        const QJsonObject item = utterances.at(i).toObject();
-        const int startTime = jsonMs(item.value(QStringLiteral("start_time")));
-        int endTime = jsonMs(item.value(QStringLiteral("end_time")));
+        const SpeechReply::Utterance& item = utterances.at(i);
+        int endTime = item.endMs;
         // Back-to-back captions must not touch, or both show at the joint.
-        if (i + 1 < utterances.size()
-            && endTime == jsonMs(utterances.at(i + 1).toObject().value(QStringLiteral("start_time")))) {
+        if (i + 1 < utterances.size() && endTime == utterances.at(i + 1).startMs) {
             endTime -= 10;
         }
-        CaptionStyle* style = parseStyleLine(styleLine);
+        CaptionStyle* style = AssWriter::parseStyleLine(styleLine);
         auto* info = new CaptionInfo;
         info->index = i + 1;
-        info->text = item.value(QStringLiteral("text")).toString();
+        info->text = item.text;
         info->initialText = info->text;
-        info->start = formatAssTime(startTime);
-        info->end = formatAssTime(endTime);
+        info->setTimesMs(item.startMs, endTime);
         info->style = style->name;
         info->captionStyle = style;
-        info->captionEdit = makeEdit(*style, info->text);
-        m_captions.append(info);
+        info->captionEdit = CaptionEdit::fromStyle(*style, info->text);
+        captions.append(info);
     }
+    replaceCaptions(captions);
 
     QFile file;
     if (!openWorkingFile(file, "Failed to open the file for writing")) {
@@ -389,7 +277,7 @@ bool CaptionManager::createCaptions(const QByteArray& json, bool save)
     }
     QTextStream out(&file);
     out.setCodec("UTF-8");
-    writeHeader(out);
+    AssWriter::writeHeader(out);
     if (m_captions.isEmpty()) {
         out << styleLine << '\n';
         qDebug().noquote() << "create caption style with empty caption:" << styleLine;
@@ -399,17 +287,15 @@ bool CaptionManager::createCaptions(const QByteArray& json, bool save)
             if (written.contains(info->style)) {
                 continue;
             }
-            const QString line = formatStyleLine(*info->captionStyle);
+            const QString line = AssWriter::formatStyleLine(*info->captionStyle);
             out << line << '\n';
             written.insert(info->style);
             qDebug().noquote() << "create caption style:" << line;
         }
     }
-    out << '\n' << "[Events]\n" << kEventFormat << '\n';
+    AssWriter::writeEventsHeader(out);
     for (const CaptionInfo* info : qAsConst(m_captions)) {
-        // Filled one placeholder after another: the text goes in before the style name.
-        out << kEventTemplate.arg(info->start).arg(info->end).arg(eventText(info->text)).arg(info->style)
-            << '\n';
+        out << AssWriter::eventLine(*info) << '\n';
     }
     out.flush();
     file.close();
@@ -465,90 +351,14 @@ int CaptionManager::loadCaptionFile(const QString& path)
     m_styles.clear();
     const QByteArray bytes = file.readAll();
     file.close();
-    parseLines(SubtitleEncoding::decode(bytes));
+    QList<CaptionInfo*> captions;
+    AssReader::read(SubtitleEncoding::decode(bytes), m_styles, captions, m_fileLines);
+    m_captions = captions; // emptied above
 
     if (m_captions.isEmpty()) {
         reportLoadError(tr("No captions were found in \"%1\".").arg(fileInfo.fileName()));
     }
     return 0;
-}
-
-void CaptionManager::parseLines(const QString& content)
-{
-    static const QString stylePrefix = QStringLiteral("Style:");
-    static const QString eventsSection = QStringLiteral("[Events]");
-    static const QString dialoguePrefix = QStringLiteral("Dialogue:");
-
-    // Last style of a name wins, as when searching the list from its end.
-    QHash<QString, const CaptionStyle*> stylesByName;
-    bool inEvents = false;
-    int counter = 0;
-    const QChar* data = content.constData();
-    const int size = content.size();
-    int pos = 0;
-    while (pos < size) {
-        int end = pos;
-        while (end < size && data[end] != QLatin1Char('\n') && data[end] != QLatin1Char('\r')) {
-            ++end;
-        }
-        const QString raw = content.mid(pos, end - pos);
-        pos = end;
-        if (pos < size) {
-            pos += (data[pos] == QLatin1Char('\r') && pos + 1 < size && data[pos + 1] == QLatin1Char('\n')) ? 2 : 1;
-        }
-        m_fileLines.append(raw);
-
-        const QString line = raw.trimmed();
-        if (line.startsWith(stylePrefix)) {
-            CaptionStyle* style = parseStyleLine(line);
-            m_styles.append(style);
-            stylesByName.insert(style->name, style);
-            continue;
-        }
-        if (line.startsWith(eventsSection)) {
-            inEvents = true;
-            continue;
-        }
-        if (!inEvents || !line.startsWith(dialoguePrefix)) {
-            continue;
-        }
-
-        const int colon = dialoguePrefix.size() - 1;
-        int commas[9];
-        int found = 0;
-        for (int i = colon + 1; i < line.size() && found < 9; ++i) {
-            if (line.at(i) == QLatin1Char(',')) {
-                commas[found++] = i;
-            }
-        }
-        if (found < 9) {
-            continue;
-        }
-        auto field = [&line, &commas, colon](int n) {
-            const int from = n == 0 ? colon + 1 : commas[n - 1] + 1;
-            return QStringView(line).mid(from, commas[n] - from).trimmed().toString();
-        };
-
-        auto* info = new CaptionInfo;
-        info->index = ++counter;
-        info->type = line.left(colon);
-        info->layer = field(0);
-        info->start = field(1);
-        info->end = field(2);
-        info->style = field(3);
-        info->actor = field(4);
-        info->marginL = field(5);
-        info->marginR = field(6);
-        info->marginV = field(7);
-        info->effect = field(8);
-        info->text = line.mid(commas[8] + 1);
-        info->initialText = info->text;
-        info->line = line;
-        const CaptionStyle* style = stylesByName.value(info->style, nullptr);
-        info->captionStyle = style ? new CaptionStyle(*style) : new CaptionStyle;
-        info->captionEdit = makeEdit(*info->captionStyle, info->text);
-        m_captions.append(info);
-    }
 }
 
 // ---------------------------------------------------------------- editing
@@ -614,18 +424,14 @@ void CaptionManager::changeCaptionNew(CaptionInfo* info, bool isAll)
         return;
     }
     if (!info->captionStyle) {
-        info->captionStyle = parseStyleLine(defaultStyleLine());
+        info->captionStyle = AssWriter::parseStyleLine(AssWriter::defaultStyleLine());
     }
     if (!info->captionEdit) {
-        info->captionEdit = makeEdit(*info->captionStyle, info->text);
+        info->captionEdit = CaptionEdit::fromStyle(*info->captionStyle, info->text);
     }
     const CaptionEdit* edit = info->captionEdit;
     info->text = edit->text;
-    const QString block = kOverrideTemplate.arg(edit->fontSize)
-                              .arg(edit->x)
-                              .arg(edit->y)
-                              .arg(edit->border)
-                              .arg(edit->shadow);
+    const QString block = AssWriter::overrideBlock(*edit);
     if (info->editMarks.isEmpty()) {
         info->editMarks.append(qMakePair(block, info->text));
     } else {
@@ -646,7 +452,7 @@ void CaptionManager::changeCaptionNew(CaptionInfo* info, bool isAll)
                 other->captionStyle = new CaptionStyle(*info->captionStyle);
             }
             if (!other->captionEdit) {
-                other->captionEdit = makeEdit(*other->captionStyle, other->text);
+                other->captionEdit = CaptionEdit::fromStyle(*other->captionStyle, other->text);
             }
             other->captionEdit->x = edit->x;
             other->captionEdit->y = edit->y;
@@ -663,11 +469,11 @@ void CaptionManager::changeCaptionNew(CaptionInfo* info, bool isAll)
     }
     QTextStream out(&file);
     out.setCodec("UTF-8");
-    writeHeader(out);
+    AssWriter::writeHeader(out);
 
     QSet<QString> written;
     for (const CaptionStyle* style : qAsConst(m_styles)) {
-        const QString line = formatStyleLine(*style);
+        const QString line = AssWriter::formatStyleLine(*style);
         qDebug().noquote() << "style:" << line;
         out << line << '\n';
         written.insert(style->name);
@@ -681,12 +487,12 @@ void CaptionManager::changeCaptionNew(CaptionInfo* info, bool isAll)
         if (!caption->captionStyle || caption->captionStyle->name.isEmpty()) {
             continue;
         }
-        const QString line = formatStyleLine(*caption->captionStyle);
+        const QString line = AssWriter::formatStyleLine(*caption->captionStyle);
         qDebug().noquote() << "style:" << line;
         out << line << '\n';
     }
 
-    out << '\n' << "[Events]\n" << kEventFormat << '\n';
+    AssWriter::writeEventsHeader(out);
     for (const CaptionInfo* caption : qAsConst(m_captions)) {
         QString override;
         if (isAll) {
@@ -695,13 +501,8 @@ void CaptionManager::changeCaptionNew(CaptionInfo* info, bool isAll)
             override = caption->editMarks.constFirst().first;
             qDebug().noquote() << "subtitle->" << override << caption->text;
         }
-        const QString text = caption->isShow ? eventText(caption->text) : QString();
-        out << kEditedEventTemplate.arg(caption->start)
-                   .arg(caption->end)
-                   .arg(text)
-                   .arg(caption->style)
-                   .arg(override)
-            << '\n';
+        const QString text = caption->isShow ? AssWriter::eventText(caption->text) : QString();
+        out << AssWriter::editedEventLine(*caption, text, override) << '\n';
     }
     out.flush();
     file.close();
@@ -719,18 +520,18 @@ CaptionInfo* CaptionManager::insertCaptionInfo(double time, double duration)
     if (m_captions.isEmpty()) {
         position = 0;
         length = wanted;
-    } else if (t < parseAssTime(m_captions.constFirst()->start)) {
+    } else if (t < m_captions.constFirst()->startMs()) {
         base = m_captions.constFirst();
         position = 0;
-        length = qMin(wanted, parseAssTime(base->start) - t);
-    } else if (t > parseAssTime(m_captions.constLast()->end)) {
+        length = qMin(wanted, base->startMs() - t);
+    } else if (t > m_captions.constLast()->endMs()) {
         base = m_captions.constLast();
         position = m_captions.size();
         length = wanted;
     } else {
         for (int i = 0; i + 1 < m_captions.size(); ++i) {
-            const qint64 nextStart = parseAssTime(m_captions.at(i + 1)->start);
-            if (parseAssTime(m_captions.at(i)->end) <= t && t <= nextStart) {
+            const qint64 nextStart = m_captions.at(i + 1)->startMs();
+            if (m_captions.at(i)->endMs() <= t && t <= nextStart) {
                 base = m_captions.at(i);
                 position = i + 1;
                 length = qMin(wanted, nextStart - t - 10);
@@ -758,11 +559,10 @@ CaptionInfo* CaptionManager::insertCaptionInfo(double time, double duration)
         // No source line: a line-level edit must not find the base caption's line.
         info->captionStyle = base->captionStyle ? new CaptionStyle(*base->captionStyle) : new CaptionStyle;
     } else {
-        info->captionStyle = parseStyleLine(defaultStyleLine());
+        info->captionStyle = AssWriter::parseStyleLine(AssWriter::defaultStyleLine());
         info->style = info->captionStyle->name;
     }
-    info->start = formatAssTime(clampToInt(t));
-    info->end = formatAssTime(clampToInt(t + length));
+    info->setTimesMs(clampToInt(t), clampToInt(t + length));
     info->index = position + 1;
     for (int i = position; i < m_captions.size(); ++i) {
         ++m_captions[i]->index;

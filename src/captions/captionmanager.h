@@ -12,7 +12,6 @@
 #include <QStringList>
 
 class QFile;
-class QTextStream;
 
 // The caption list of the open video, its styles, the recognition language and
 // the working files (extracted audio, raw service reply, working ASS file).
@@ -21,6 +20,9 @@ class CaptionManager : public QObject
     Q_OBJECT
 public:
     static CaptionManager* instance();
+    // Registers every value type that travels in queued signals and bus events:
+    // the caption records, then the core's types.
+    static void registerMetaTypes();
 
     void initLang();
     QList<Language::LanguageItem*> getLangItems() const { return m_langItems; }
@@ -48,7 +50,12 @@ public:
     QList<CaptionStyle*> getStyles() const { return m_styles; }
     QStringList getFileLines() const { return m_fileLines; }
     CaptionInfo* getCaptionDataByIndex(int index) const;
+    // Empties the list; the records are freed (aboutToReplaceCaptions first).
     void clearCaptions();
+    // The manager owns every record: the old ones are freed, the new ones adopted.
+    void replaceCaptions(const QList<CaptionInfo*>& captions);
+    // Hands the records to the caller (an undo step, say) instead of freeing them.
+    QList<CaptionInfo*> takeCaptions();
     int getMaxTextWidth() const;
     int getDigits() const { return 0; }
 
@@ -74,12 +81,15 @@ public:
     void changeCaptionNew(CaptionInfo* info, bool isAll);
     CaptionInfo* insertCaptionInfo(double time, double duration);
 
+signals:
+    // The caption records are about to be freed or handed over: drop every
+    // pointer to them now.
+    void aboutToReplaceCaptions();
+
 private:
     explicit CaptionManager(QObject* parent = nullptr);
     QString workingFilePath(const QString& suffix) const;
     bool openWorkingFile(QFile& file, const char* failureLog) const;
-    void writeHeader(QTextStream& stream) const;
-    void parseLines(const QString& content);
     void reportLoadError(const QString& text);
 
     QList<CaptionInfo*> m_captions;

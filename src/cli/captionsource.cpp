@@ -81,7 +81,7 @@ QString CaptionSource::extractTrack(const QString& video, const QString& workDir
     const QString output = QStringLiteral("%1/%2.%3")
                                .arg(workDir, QFileInfo(video).completeBaseName(),
                                     styled ? QStringLiteral("ass") : QStringLiteral("srt"));
-    runTool(GlobalManager::instance()->getFfmpegPath(),
+    runTool(FileManager::instance()->findTool(QStringLiteral("ffmpeg")),
             {QStringLiteral("-hide_banner"), QStringLiteral("-loglevel"), QStringLiteral("error"), QStringLiteral("-y"),
              QStringLiteral("-i"), video, QStringLiteral("-map"), QStringLiteral("0:s:0"), QStringLiteral("-c:s"),
              styled ? QStringLiteral("ass") : QStringLiteral("srt"), output},

@@ -169,7 +169,8 @@ bool CliJob::chooseShots()
         Shot shot;
         shot.number = captions.indexOf(info) + 1;
         shot.start = info->start;
-        shot.seconds = FrameGrabber::captureSeconds(CaptionManager::parseAssTime(info->start));
+        shot.startMs = info->startMs();
+        shot.seconds = FrameGrabber::captureSeconds(info->startMs());
         m_chosen.append(shot);
     }
     return true;
@@ -217,7 +218,13 @@ void CliJob::beginCapture()
     m_capturing = true;
     const double duration = (*ready)->duration();
     for (const Shot& shot : qAsConst(m_chosen)) {
-        if (duration > 0.0 && shot.seconds >= duration) {
+        // As the window's capture: past the end there would only be the last
+        // frame again, under another caption's text.
+        if (shot.startMs < 0) {
+            m_progress->note(QStringLiteral("caption %1 has no readable start time (%2): skipped")
+                                 .arg(shot.number)
+                                 .arg(shot.start));
+        } else if (duration > 0.0 && shot.startMs / 1000.0 >= duration) {
             m_progress->note(QStringLiteral("caption %1 starts at %2, at or after the end of the video (%3 s): skipped")
                                  .arg(shot.number)
                                  .arg(shot.start)

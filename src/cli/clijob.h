@@ -37,6 +37,7 @@ private:
     struct Shot {
         int number = 0;   // 1-based caption number
         QString start;    // ASS time text
+        int startMs = -1;
         double seconds = 0.0;
     };
     struct Frame {

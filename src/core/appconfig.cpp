@@ -62,18 +62,12 @@ void initResources()
 
 } // namespace AppConfig
 
-#include "captionedit.h"
-#include "captioninfo.h"
-
 namespace AppConfig {
 
 void registerMetaTypes()
 {
-    qRegisterMetaType<CaptionInfo>("CaptionInfo");
-    qRegisterMetaType<CaptionEdit>("CaptionEdit");
     qRegisterMetaType<AppConfig::CaptureData>("AppConfig::CaptureData");
     qRegisterMetaType<QList<QString>>("QList<QString>&");
-    qRegisterMetaType<CaptionInfo*>("CaptionInfo *");
 }
 
 } // namespace AppConfig

@@ -106,7 +106,8 @@ void initResources();
 // every px value scaled to the current screen.
 QString loadApplicationStyleSheet();
 
-// Registers the value types that travel in queued signals and bus events.
+// Registers this layer's value types that travel in queued signals and bus
+// events (CaptionManager::registerMetaTypes registers them all, in order).
 void registerMetaTypes();
 
 } // namespace AppConfig

@@ -5,18 +5,20 @@
 #include <QImage>
 #include <QJsonObject>
 #include <QList>
-#include <QMap>
 #include <QObject>
 #include <QPixmap>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
 
+class AudioExtractor;
 class ImageItem;
 class ProcessThread;
 
-// Process-wide services: the event bus, both settings stores, paths, logging,
-// the audio extraction runner and the file helpers shared by the panels.
+// The program's facade for application-wide services. It owns the event bus
+// and the current media file; everything else is a thin call into a focused
+// class: Settings, AppPaths, Logger, AudioExtractor, PictureWriter, OutputFiles,
+// FileReveal, and (caption layer) SubtitleConverter.
 class GlobalManager : public QObject
 {
     Q_OBJECT
@@ -26,13 +28,13 @@ public:
     // Event bus: synchronous delivery to every connected listener.
     void emitEvent(const QString& eventName, const QVariant& value);
 
-    // Settings
+    // Settings (Settings)
     void saveSettings(const QString& key, const QVariant& value);
     QVariant readSettings(const QString& key, const QVariant& defaultValue = QVariant()) const;
     void saveInAppSettings(const QString& key, const QVariant& value);
     QVariant readInAppSettings(const QString& key, const QVariant& defaultValue = QVariant()) const;
 
-    // Paths
+    // Paths (AppPaths)
     QString getWritePath(const QString& name) const;
     QString getDirPath() const;
     QString getTempPath(const QString& name) const;
@@ -51,20 +53,19 @@ public:
     static bool writeFileContent(const QString& path, const QString& content);
     void openUrl(const QString& url);
 
-    // Logging
+    // Logging (Logger)
     QString getLogDir() const;
     void initLog();
     QString getLogFilePath() const { return m_logFilePath; }
-    static QString formatLogLine(QtMsgType type, const QString& file, int line,
-                                 const QString& function, const QString& message);
 
-    // Audio extraction and subtitle conversion
+    // Audio extraction (AudioExtractor) and subtitle conversion. These two are
+    // defined in the caption layer (captions/captionfacade.cpp): they work on
+    // the caption store's working files.
     void videoToAudio(const QString& videoPath);
-    void stopConvert();
-    bool isStopConvert() const { return m_isStopConvert; }
-    ProcessThread* audioThread() const { return m_mp3Thread; }
     QString srtToAss(const QString& srtPath);
-    QString getFfmpegPath() const;
+    void stopConvert();
+    bool isStopConvert() const;
+    ProcessThread* audioThread() const;
 
     // Captured image selection, rebuilt by the image strip
     QList<ImageItem*>& selectedImages() { return m_selectedImages; }
@@ -81,7 +82,6 @@ public:
     QStringList selectOutPutFilesByTempList(const QStringList& tempPaths,
                                             QStringList* errors = nullptr);
     void openFilesBySelect(const QStringList& paths);
-    static bool isUsableDir(const QString& path);
 
     // Licensing state
     bool isRegister() const { return m_isRegister; }
@@ -99,9 +99,7 @@ private:
 
     QString m_appVersion;
     QFileInfo m_currentFile;
-    bool m_isStopConvert = false;
-    ProcessThread* m_mp3Thread = nullptr;
-    QMap<QString, QVariant> m_inAppSettings;
+    AudioExtractor* m_audio = nullptr;
     QString m_logFilePath;
     QList<ImageItem*> m_selectedImages;
     bool m_isRegister = false;

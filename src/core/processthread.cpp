@@ -1,9 +1,13 @@
 #include "processthread.h"
 
+#include <QDeadlineTimer>
 #include <QDebug>
 #include <QMetaEnum>
 
 namespace {
+// How long the worker waits for the child before it looks for a stop request.
+constexpr int kWaitSliceMs = 50;
+
 // Text of a byte buffer up to its first NUL byte.
 QString textUpToNul(const QByteArray& bytes)
 {
@@ -31,9 +35,7 @@ ProcessThread::ProcessThread(QObject* parent)
 ProcessThread::~ProcessThread()
 {
     if (isRunning()) {
-        if (m_process->state() != QProcess::NotRunning) {
-            m_process->kill();
-        }
+        m_stopRequested.storeRelease(1);
         wait();
     }
     delete m_process;
@@ -60,7 +62,9 @@ void ProcessThread::setWaitFinishTime(int ms)
 void ProcessThread::stopProcess()
 {
     QThread::msleep(200);
-    m_process->kill();
+    // The process belongs to the worker: it kills the child itself, within one
+    // slice of its wait.
+    m_stopRequested.storeRelease(1);
 }
 
 void ProcessThread::onReadyReadStandardOutput()
@@ -86,6 +90,7 @@ void ProcessThread::onErrorOccurred(QProcess::ProcessError error)
 void ProcessThread::run()
 {
     m_processId = 0;
+    m_stopRequested.storeRelease(0);
     m_process->start(m_program, m_arguments, m_openMode);
     qDebug() << "Rum command" << m_process->workingDirectory() << m_program << m_arguments;
     if (!m_process->waitForStarted(30000)) {
@@ -98,11 +103,30 @@ void ProcessThread::run()
     m_processId = m_process->processId();
     qDebug().noquote() << QStringLiteral("Process %1 has been started.").arg(m_processId);
     emit processStart();
-    if (m_process->waitForFinished(m_waitFinishTime)) {
+    if (waitForEnd()) {
         qDebug().noquote() << QStringLiteral("Process %1 has been finish.").arg(m_processId);
         // Let the last output and error signals reach listeners first.
         QThread::msleep(1000);
         emit processStop();
         requestInterruption();
     }
+}
+
+bool ProcessThread::waitForEnd()
+{
+    QDeadlineTimer deadline(m_waitFinishTime);
+    while (!deadline.hasExpired()) {
+        if (m_stopRequested.loadAcquire()) {
+            m_process->kill();
+            return m_process->waitForFinished(5000);
+        }
+        const int slice = static_cast<int>(qMin<qint64>(kWaitSliceMs, qMax<qint64>(1, deadline.remainingTime())));
+        if (m_process->waitForFinished(slice)) {
+            return true;
+        }
+        if (m_process->state() == QProcess::NotRunning) {
+            return true;
+        }
+    }
+    return false;
 }

@@ -1,6 +1,7 @@
 #ifndef PROCESSTHREAD_H
 #define PROCESSTHREAD_H
 
+#include <QAtomicInt>
 #include <QIODevice>
 #include <QProcess>
 #include <QString>
@@ -18,6 +19,7 @@ public:
     void setCommand(const QString& program, const QStringList& arguments, QIODevice::OpenMode mode);
     void setProcessWorkingDirectory(const QString& dir);
     void setWaitFinishTime(int ms);
+    // Waits 200 ms, then has the worker kill the child. Safe from any thread.
     void stopProcess();
 
     QString program() const { return m_program; }
@@ -40,12 +42,16 @@ private slots:
     void onErrorOccurred(QProcess::ProcessError error);
 
 private:
+    // Waits up to the finish limit; true when the child ended (or was stopped).
+    bool waitForEnd();
+
     QString m_program;
     QStringList m_arguments;
     QIODevice::OpenMode m_openMode = QIODevice::ReadWrite;
     QProcess* m_process = nullptr;
     qint64 m_processId = 0;
     int m_waitFinishTime = 120000;
+    QAtomicInt m_stopRequested;
 };
 
 #endif // PROCESSTHREAD_H

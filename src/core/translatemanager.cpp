@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "settings.h"
 
 #include <QDebug>
 #include <QLocale>
@@ -48,7 +49,7 @@ void TranslateManager::init()
     }
 
     const QLocale locale = QLocale::system();
-    const int stored = GlobalManager::instance()->readSettings(AppConfig::APP_LANG, -1).toInt();
+    const int stored = Settings::instance()->value(AppConfig::APP_LANG).toInt();
     qDebug() << "Current system language: " << QLocale::languageToString(locale.language())
              << locale.name() << stored;
     m_langType = chooseLangType(locale.name(), stored);

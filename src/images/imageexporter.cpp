@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "globalmanager.h"
 #include "saveimagethread.h"
+#include "settings.h"
 
 #include <QDebug>
 #include <QMessageBox>
@@ -30,7 +31,7 @@ bool ImageExporter::start(const QList<QPixmap>& pixmaps)
     }
     GlobalManager* manager = GlobalManager::instance();
     const QString folder = manager->getDirByCheck(
-        manager->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString() + QStringLiteral("/tmp"));
+        Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString() + QStringLiteral("/tmp"));
     // saveFinished is queued from inside run(): the thread may still be on its
     // way out when the next export starts.
     m_thread->wait();
@@ -59,7 +60,7 @@ void ImageExporter::saveFinishedHandle(const QStringList& paths)
         moveAndReveal();
         return;
     }
-    const bool guideShown = manager->readInAppSettings(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT, false).toBool();
+    const bool guideShown = Settings::instance()->inAppValue(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT).toBool();
     if (manager->isRegister() || guideShown) {
         moveAndReveal();
         return;

@@ -10,6 +10,7 @@
 #include "propertyitem.h"
 #include "savefilebar.h"
 #include "saveimagethread.h"
+#include "settings.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -49,7 +50,7 @@ PreviewWidget::PreviewWidget(QWidget* parent)
         layoutRow->addWidget(radio);
     }
     layoutRow->addStretch(1);
-    m_radioType = GlobalManager::instance()->readSettings(AppConfig::RADIO_TYPE, 1).toInt();
+    m_radioType = Settings::instance()->value(AppConfig::RADIO_TYPE).toInt();
     if (m_radioType < Grid || m_radioType > Horizontal) {
         m_radioType = Vertical;
     }
@@ -198,19 +199,15 @@ void PreviewWidget::initPropertyItems()
     struct Field {
         int type;
         QString unit;
-        QString defaultValue;
     };
-    const QList<Field> fields{{PropertyItem::Width, QStringLiteral("px"), QStringLiteral("0")},
-                            {PropertyItem::Height, QStringLiteral("px"), QStringLiteral("0")},
-                            {PropertyItem::XSpace, QStringLiteral("px"), QStringLiteral("0")},
-                            {PropertyItem::YSpace, QStringLiteral("px"), QStringLiteral("0")},
-                            {PropertyItem::Scale, QStringLiteral("%"), QStringLiteral("100")},
-                            {PropertyItem::Column, QString(), QStringLiteral("2")}};
+    const QList<Field> fields{{PropertyItem::Width, QStringLiteral("px")}, {PropertyItem::Height, QStringLiteral("px")},
+                              {PropertyItem::XSpace, QStringLiteral("px")}, {PropertyItem::YSpace, QStringLiteral("px")},
+                              {PropertyItem::Scale, QStringLiteral("%")},   {PropertyItem::Column, QString()}};
     GlobalManager* manager = GlobalManager::instance();
     for (const Field& field : fields) {
         auto* item = new PropertyItem(field.type, propertyTitle(field.type), field.unit, this);
         const QString key = propertyKey(field.type);
-        const QString value = manager->readInAppSettings(key, field.defaultValue).toString();
+        const QString value = Settings::instance()->inAppValue(key).toString();
         item->setText(value);
         manager->saveInAppSettings(key, value);
         m_propertyItems.insert(field.type, item);

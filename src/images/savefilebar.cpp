@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "settings.h"
 #include "translatemanager.h"
 
 #include <QCheckBox>
@@ -61,8 +62,8 @@ SaveFileBar::SaveFileBar(bool withSelectAll, QWidget* parent)
     exportRow->addWidget(m_exportButton);
 
     GlobalManager* manager = GlobalManager::instance();
-    changeOutputDir(manager->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString());
-    changeFileExtension(manager->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_JPG).toString());
+    changeOutputDir(Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString());
+    changeFileExtension(Settings::instance()->value(AppConfig::FILE_EXTENSION).toString());
 
     connect(manager, &GlobalManager::globalEvent, this, &SaveFileBar::globalEventHandle);
     connect(m_chooseButton, &QPushButton::clicked, this, &SaveFileBar::chooseDirHandle);
@@ -150,11 +151,10 @@ void SaveFileBar::globalEventHandle(QString eventName, QVariant value)
         return;
     }
     const QString key = value.toString();
-    GlobalManager* manager = GlobalManager::instance();
     if (key == AppConfig::FILE_SAVE_PATH) {
-        changeOutputDir(manager->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString());
+        changeOutputDir(Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString());
     } else if (key == AppConfig::FILE_EXTENSION) {
-        changeFileExtension(manager->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_JPG).toString());
+        changeFileExtension(Settings::instance()->value(AppConfig::FILE_EXTENSION).toString());
     }
 }
 

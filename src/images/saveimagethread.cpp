@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "settings.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -21,9 +22,18 @@ SaveImageThread::~SaveImageThread()
 
 void SaveImageThread::setPixmapList(const QList<QPixmap>& pixmaps, const QString& dir)
 {
+    // Everything the worker needs is read here, on the caller's thread: the
+    // worker touches no shared state of the program.
+    GlobalManager* manager = GlobalManager::instance();
+    const QString base = manager->getCurrentFile().completeBaseName();
+    const QString ext = Settings::instance()->value(AppConfig::FILE_EXTENSION, Settings::ExportWorker).toString();
+    const bool registered = manager->isRegister();
     QMutexLocker locker(&m_mutex);
     m_pixmapList = pixmaps;
     m_dir = dir;
+    m_baseName = base;
+    m_extension = ext;
+    m_registered = registered;
 }
 
 QString SaveImageThread::getDir() const
@@ -36,6 +46,9 @@ void SaveImageThread::run()
 {
     QList<QImage> images;
     QString dir;
+    QString base;
+    QString ext;
+    bool registered = false;
     {
         QMutexLocker locker(&m_mutex);
         // Raster pixmaps hand out their image without copying; painting on a
@@ -44,12 +57,11 @@ void SaveImageThread::run()
             images.append(pixmap.isNull() ? QImage() : pixmap.toImage());
         }
         dir = m_dir;
+        base = m_baseName;
+        ext = m_extension;
+        registered = m_registered;
     }
     const int total = images.size();
-    GlobalManager* manager = GlobalManager::instance();
-    const QString base = manager->getCurrentFile().completeBaseName();
-    const QString ext = manager->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_PNG).toString();
-    const bool registered = manager->isRegister();
 
     emit saveStart();
     QStringList result;
@@ -64,7 +76,7 @@ void SaveImageThread::run()
             GlobalManager::changeImageWithWaterMark(image, AppConfig::APP_NAME);
         }
         QString error;
-        const QString path = manager->saveImage(image, dir, name, QString(), &error);
+        const QString path = GlobalManager::instance()->saveImage(image, dir, name, QString(), &error);
         if (path.isEmpty()) {
             emit saveError(name.mid(1), error);
         } else {

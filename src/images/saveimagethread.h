@@ -17,6 +17,8 @@ public:
     explicit SaveImageThread(QObject* parent = nullptr);
     ~SaveImageThread() override;
 
+    // Also takes the video's name, the format and the registration state as
+    // they are now: the worker reads nothing else.
     void setPixmapList(const QList<QPixmap>& pixmaps, const QString& dir);
     QString getDir() const;
 
@@ -34,6 +36,9 @@ private:
     mutable QMutex m_mutex;
     QList<QPixmap> m_pixmapList;
     QString m_dir;
+    QString m_baseName;
+    QString m_extension;
+    bool m_registered = false;
 };
 
 #endif // SAVEIMAGETHREAD_H

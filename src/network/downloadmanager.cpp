@@ -5,6 +5,7 @@
 #include "globalmanager.h"
 #include "md5calculator.h"
 #include "processthread.h"
+#include "settings.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -59,8 +60,7 @@ DownloadManager::DownloadManager(QObject* parent)
 
 QString DownloadManager::versionFileUrl() const
 {
-    return GlobalManager::instance()
-        ->readSettings(AppConfig::VERSION_FILE_URL, AppConfig::DEFAULT_VERSION_FILE_URL)
+    return Settings::instance()->value(AppConfig::VERSION_FILE_URL)
         .toString();
 }
 

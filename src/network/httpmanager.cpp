@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "settings.h"
 #include "speechservice.h"
 
 #include <QDebug>
@@ -25,12 +26,15 @@ HttpManager::HttpManager(QObject* parent)
     : QObject(parent)
     , m_manager(new QNetworkAccessManager(this))
 {
+    // Replies reach the bus through the facade's two hand-off slots.
+    GlobalManager* global = GlobalManager::instance();
+    connect(this, &HttpManager::requestFinished, global, &GlobalManager::httpRequestFinished);
+    connect(this, &HttpManager::requestError, global, &GlobalManager::httpRequestError);
 }
 
 QString HttpManager::speechBaseUrl() const
 {
-    QString base = GlobalManager::instance()
-                       ->readSettings(AppConfig::SPEECH_SERVER_URL, AppConfig::DEFAULT_SPEECH_SERVER_URL)
+    QString base = Settings::instance()->value(AppConfig::SPEECH_SERVER_URL)
                        .toString();
     while (base.endsWith(QLatin1Char('/'))) {
         base.chop(1);
@@ -97,11 +101,12 @@ void HttpManager::loadCaptions(const QString& filePath, const QString& language)
 
 void HttpManager::submit(const QString& filePath, const QString& language)
 {
-    QUrl url(speechBaseUrl() + QStringLiteral("/api/speech/submit"));
+    QUrl url(SpeechService::instance()->serviceUrl(speechBaseUrl()) + QStringLiteral("/api/speech/submit"));
     QUrlQuery query;
     query.addQueryItem(QStringLiteral("language"), language);
     url.setQuery(query);
     QNetworkRequest request(url);
+    SpeechService::instance()->authorize(request);
 
     auto* file = new QFile(filePath);
     if (!file->open(QIODevice::ReadOnly)) {
@@ -149,7 +154,9 @@ void HttpManager::submit(const QString& filePath, const QString& language)
 void HttpManager::getCaptionsByTaskId(const QString& taskId)
 {
     qDebug() << "start getCaptionsByTaskId";
-    QNetworkRequest request(QUrl(speechBaseUrl() + QStringLiteral("/api/speech/query?task_id=") + taskId));
+    QNetworkRequest request(QUrl(SpeechService::instance()->serviceUrl(speechBaseUrl())
+                                 + QStringLiteral("/api/speech/query?task_id=") + taskId));
+    SpeechService::instance()->authorize(request);
     QNetworkReply* reply = m_manager->get(request);
     m_queryReply = reply;
     m_taskId = taskId;
@@ -189,9 +196,11 @@ void HttpManager::stopUploadFile()
     }
     if (m_queryReply && m_queryReply->isRunning() && !m_taskId.isEmpty()) {
         // Free the service from a recognition nobody waits for.
-        QUrl url(speechBaseUrl() + QStringLiteral("/api/speech/cancel"));
+        QUrl url(SpeechService::instance()->serviceUrl(speechBaseUrl()) + QStringLiteral("/api/speech/cancel"));
         url.setQuery(QStringLiteral("task_id=") + m_taskId);
-        QNetworkReply* cancel = m_manager->post(QNetworkRequest(url), QByteArray());
+        QNetworkRequest request(url);
+        SpeechService::instance()->authorize(request);
+        QNetworkReply* cancel = m_manager->post(request, QByteArray());
         connect(cancel, &QNetworkReply::finished, cancel, &QObject::deleteLater);
     }
     if (m_queryReply) {

@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "globalmanager.h"
 #include "httpmanager.h"
+#include "settings.h"
 
 #include <QDebug>
 #include <QSysInfo>
@@ -34,8 +35,7 @@ LicenseManager::LicenseManager(QObject* parent)
 
 QString LicenseManager::licenseServerUrl() const
 {
-    QString base = GlobalManager::instance()
-                       ->readSettings(AppConfig::LICENSE_SERVER_URL, AppConfig::DEFAULT_LICENSE_SERVER_URL)
+    QString base = Settings::instance()->value(AppConfig::LICENSE_SERVER_URL)
                        .toString();
     while (base.endsWith(QLatin1Char('/'))) {
         base.chop(1);
@@ -55,7 +55,7 @@ QJsonObject LicenseManager::requestBody(const QString& key) const
 
 void LicenseManager::restore()
 {
-    const QString stored = GlobalManager::instance()->readSettings(AppConfig::APP_REGISTER, QString()).toString();
+    const QString stored = Settings::instance()->value(AppConfig::APP_REGISTER).toString();
     setRegistered(!stored.isEmpty());
     qDebug() << "licence restored:" << (stored.isEmpty() ? "false" : "true");
     if (!stored.isEmpty()) {
@@ -145,7 +145,7 @@ void LicenseManager::setRegistered(bool registered)
 
 QString LicenseManager::maskedKey() const
 {
-    return maskKey(GlobalManager::instance()->readSettings(AppConfig::APP_REGISTER, QString()).toString());
+    return maskKey(Settings::instance()->value(AppConfig::APP_REGISTER).toString());
 }
 
 QString LicenseManager::maskKey(const QString& key)

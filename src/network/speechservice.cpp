@@ -2,29 +2,35 @@
 
 #include "appconfig.h"
 #include "filemanager.h"
-#include "httpmanager.h"
 
 #include <QCoreApplication>
-#include <QDateTime>
 #include <QDebug>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QProcess>
+#include <QProcessEnvironment>
+#include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTimer>
 #include <QUrl>
 
 namespace {
 // Loading the speech model takes under a second; a slow disk gets some slack.
 constexpr int kStartTimeoutMs = 20000;
-constexpr int kProbeIntervalMs = 150;
+// The service closes its connections and ends at once on SIGTERM; a
+// recognition in progress is cancelled first.
+constexpr int kStopTimeoutMs = 10000;
 
 QUrl normalized(const QString& url)
 {
     return QUrl(url).adjusted(QUrl::StripTrailingSlash | QUrl::NormalizePathSegments);
+}
+
+QByteArray newToken()
+{
+    quint32 words[8];
+    QRandomGenerator::system()->fillRange(words);
+    return QByteArray(reinterpret_cast<const char*>(words), sizeof words).toHex();
 }
 } // namespace
 
@@ -37,11 +43,14 @@ SpeechService* SpeechService::instance()
 SpeechService::SpeechService(QObject* parent)
     : QObject(parent)
     , m_managedUrl(AppConfig::DEFAULT_SPEECH_SERVER_URL)
-    , m_retryTimer(new QTimer(this))
+    , m_startTimer(new QTimer(this))
 {
-    m_retryTimer->setSingleShot(true);
-    m_retryTimer->setInterval(kProbeIntervalMs);
-    connect(m_retryTimer, &QTimer::timeout, this, &SpeechService::probe);
+    m_startTimer->setSingleShot(true);
+    m_startTimer->setInterval(kStartTimeoutMs);
+    connect(m_startTimer, &QTimer::timeout, this, [this]() {
+        finishAll(false, tr("The speech service did not start in time."));
+        stop();
+    });
     if (QCoreApplication::instance()) {
         connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &SpeechService::stop);
     }
@@ -62,17 +71,31 @@ bool SpeechService::isStartedByUs() const
     return m_process && m_process->state() != QProcess::NotRunning;
 }
 
+QString SpeechService::serviceUrl(const QString& baseUrl) const
+{
+    return isManaged(baseUrl) ? m_serviceUrl : baseUrl;
+}
+
+void SpeechService::authorize(QNetworkRequest& request) const
+{
+    const QUrl service(m_serviceUrl);
+    const QUrl target = request.url();
+    if (!m_token.isEmpty() && target.scheme() == service.scheme() && target.host() == service.host()
+        && target.port() == service.port()) {
+        request.setRawHeader("Authorization", "Bearer " + m_token);
+    }
+}
+
 void SpeechService::ensureRunning(const QString& baseUrl, const Callback& done)
 {
-    if (!isManaged(baseUrl)) {
+    if (!isManaged(baseUrl) || (isStartedByUs() && !m_serviceUrl.isEmpty())) {
         done(true, QString());
         return;
     }
     m_waiting.append(done);
-    if (m_probe || m_retryTimer->isActive()) {
-        return; // a check is under way and will answer this caller too
+    if (!isStartedByUs()) {
+        startProcess();
     }
-    probe();
 }
 
 void SpeechService::cancelPending()
@@ -80,60 +103,25 @@ void SpeechService::cancelPending()
     m_waiting.clear();
 }
 
-void SpeechService::probe()
-{
-    QNetworkRequest request(QUrl(normalized(m_managedUrl).toString() + QStringLiteral("/api/speech/health")));
-    request.setTransferTimeout(2000);
-    QNetworkReply* reply = HttpManager::instance()->networkManager()->get(request);
-    m_probe = reply;
-    connect(reply, &QNetworkReply::finished, this, [this, reply]() {
-        const QJsonObject answer = QJsonDocument::fromJson(reply->readAll()).object();
-        const bool alive = reply->error() == QNetworkReply::NoError
-                           && answer.value(QStringLiteral("state")).toString() == QLatin1String("ok");
-        reply->deleteLater();
-        probeFinished(alive);
-    });
-}
-
-void SpeechService::probeFinished(bool alive)
-{
-    if (alive) {
-        finishAll(true, QString());
-        return;
-    }
-    if (m_waiting.isEmpty()) {
-        return; // nobody waits any more
-    }
-    const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    if (!isStartedByUs()) {
-        startProcess();
-        if (!isStartedByUs()) {
-            return; // the failure has been reported
-        }
-        m_startDeadline = now + kStartTimeoutMs;
-    } else if (m_startDeadline == 0) {
-        m_startDeadline = now + kStartTimeoutMs;
-    }
-    if (now > m_startDeadline) {
-        finishAll(false, tr("The speech service did not answer at %1.").arg(m_managedUrl));
-        return;
-    }
-    m_retryTimer->start();
-}
-
 void SpeechService::startProcess()
 {
     const QString path = program();
-    const QUrl url = normalized(m_managedUrl);
     if (!QFileInfo(path).isExecutable()) {
         finishAll(false, tr("The speech service program is missing: %1").arg(path));
         return;
     }
     m_lastError.clear();
+    m_serviceUrl.clear();
+    m_token = newToken();
     m_process = new QProcess(this);
-    m_process->setProcessChannelMode(QProcess::MergedChannels);
     QProcess* process = m_process;
-    connect(process, &QProcess::readyReadStandardOutput, this, [this, process]() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("GLIMMER_SPEECHD_TOKEN"), QString::fromLatin1(m_token));
+    process->setProcessEnvironment(environment);
+    process->setProcessChannelMode(QProcess::SeparateChannels);
+    connect(process, &QProcess::readyReadStandardOutput, this, [this, process]() { readOutput(process); });
+    connect(process, &QProcess::readyReadStandardError, this, [this, process]() {
+        process->setReadChannel(QProcess::StandardError);
         while (process->canReadLine()) {
             const QString line = QString::fromUtf8(process->readLine()).trimmed();
             if (!line.isEmpty()) {
@@ -144,13 +132,15 @@ void SpeechService::startProcess()
     });
     connect(process, QOverload<int, QProcess::ExitStatus>::of(&QProcess::finished), this,
             [this, process](int exitCode, QProcess::ExitStatus) {
-                const QString rest = QString::fromUtf8(process->readAll()).trimmed();
+                const QString rest = QString::fromUtf8(process->readAllStandardError()).trimmed();
                 if (!rest.isEmpty()) {
                     m_lastError = rest.section(QLatin1Char('\n'), -1);
                 }
                 qDebug() << "speech service ended with exit code" << exitCode;
                 if (m_process == process) {
                     m_process = nullptr;
+                    m_serviceUrl.clear();
+                    m_token.clear();
                 }
                 process->deleteLater();
                 emit serviceStopped();
@@ -170,20 +160,36 @@ void SpeechService::startProcess()
         finishAll(false, tr("The speech service could not be started: %1").arg(process->errorString()));
     });
 
-    const QStringList arguments{QStringLiteral("--host"), url.host(),
-                                QStringLiteral("--port"), QString::number(url.port(80)),
+    // Port 0: the service takes a free port and says which on its standard output.
+    const QStringList arguments{QStringLiteral("--host"), QStringLiteral("127.0.0.1"),
+                                QStringLiteral("--port"), QStringLiteral("0"),
                                 QStringLiteral("--parent-pid"), QString::number(QCoreApplication::applicationPid())};
     qDebug() << "starting speech service" << path << arguments;
+    m_startTimer->start();
     process->start(path, arguments, QIODevice::ReadOnly);
     if (m_process == process) {
         emit serviceStarted();
     }
 }
 
+void SpeechService::readOutput(QProcess* process)
+{
+    static const QRegularExpression listening(QStringLiteral("listening on (http://[^ ]+)"));
+    process->setReadChannel(QProcess::StandardOutput);
+    while (process->canReadLine()) {
+        const QString line = QString::fromUtf8(process->readLine()).trimmed();
+        qDebug().noquote() << "speech service:" << line;
+        const QRegularExpressionMatch match = listening.match(line);
+        if (match.hasMatch() && process == m_process && m_serviceUrl.isEmpty()) {
+            m_serviceUrl = match.captured(1);
+            finishAll(true, QString());
+        }
+    }
+}
+
 void SpeechService::finishAll(bool ok, const QString& message)
 {
-    m_retryTimer->stop();
-    m_startDeadline = 0;
+    m_startTimer->stop();
     const QList<Callback> waiting = m_waiting;
     m_waiting.clear();
     for (const Callback& done : waiting) {
@@ -194,15 +200,17 @@ void SpeechService::finishAll(bool ok, const QString& message)
 void SpeechService::stop()
 {
     m_waiting.clear();
-    m_retryTimer->stop();
+    m_startTimer->stop();
     QProcess* process = m_process;
     if (!process) {
         return;
     }
     m_process = nullptr;
+    m_serviceUrl.clear();
+    m_token.clear();
     process->disconnect(this);
     process->terminate();
-    if (!process->waitForFinished(3000)) {
+    if (!process->waitForFinished(kStopTimeoutMs)) {
         process->kill();
         process->waitForFinished(1000);
     }

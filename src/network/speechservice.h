@@ -1,19 +1,21 @@
 #ifndef SPEECHSERVICE_H
 #define SPEECHSERVICE_H
 
+#include <QByteArray>
 #include <QObject>
-#include <QPointer>
 #include <QString>
 
 #include <functional>
 
-class QNetworkReply;
+class QNetworkRequest;
 class QProcess;
 class QTimer;
 
-// Makes sure the speech service answers before an upload. When the address is
-// the default local one and nothing answers there, the bundled glimmer-speechd
-// is started, and it is stopped again when the application quits.
+// The bundled speech service. The managed address (the default setting)
+// stands for it: the application starts its own glimmer-speechd on a free
+// loopback port with a secret token for the run, talks to that one only, and
+// stops it when the application quits. Whatever else answers at the managed
+// address is never used. Any other address is the user's own service.
 class SpeechService : public QObject
 {
     Q_OBJECT
@@ -35,7 +37,13 @@ public:
     bool isManaged(const QString& baseUrl) const;
     bool isStartedByUs() const;
 
-    // The address that is served by the bundled service, the default one unless changed.
+    // Where requests for baseUrl go: the bundled service's own address for the
+    // managed one, baseUrl itself otherwise.
+    QString serviceUrl(const QString& baseUrl) const;
+    // Adds the bundled service's token to a request addressed to it.
+    void authorize(QNetworkRequest& request) const;
+
+    // The setting value that stands for the bundled service, the default one unless changed.
     void setManagedBaseUrl(const QString& url) { m_managedUrl = url; }
     QString managedBaseUrl() const { return m_managedUrl; }
     // The service executable; found next to the application, then on PATH, unless set.
@@ -48,18 +56,17 @@ signals:
 
 private:
     explicit SpeechService(QObject* parent = nullptr);
-    void probe();
-    void probeFinished(bool alive);
     void startProcess();
+    void readOutput(QProcess* process);
     void finishAll(bool ok, const QString& message);
 
     QString m_managedUrl;
     QString m_program;
     QList<Callback> m_waiting;
-    QPointer<QNetworkReply> m_probe;
     QProcess* m_process = nullptr;
-    QTimer* m_retryTimer = nullptr;
-    qint64 m_startDeadline = 0;
+    QTimer* m_startTimer = nullptr;
+    QString m_serviceUrl; // where the bundled service listens, once it said so
+    QByteArray m_token;
     QString m_lastError;
 };
 

@@ -39,6 +39,15 @@ CaptionOverlay::CaptionOverlay(QWidget* parent)
     m_editor->hide();
     m_editor->installEventFilter(this);
     connect(m_editor, &QLineEdit::returnPressed, this, [this]() { finishEditing(true); });
+
+    connect(CaptionManager::instance(), &CaptionManager::aboutToReplaceCaptions, this, [this]() {
+        if (isEditing()) {
+            finishEditing(false);
+        }
+        m_dragging = false;
+        m_caption = nullptr;
+        update();
+    });
 }
 
 CaptionInfo* CaptionOverlay::captionAtTime(double seconds)
@@ -52,8 +61,8 @@ CaptionInfo* CaptionOverlay::captionAtTime(double seconds)
         if (!info) {
             continue;
         }
-        const int start = CaptionManager::parseAssTime(info->start);
-        const int end = CaptionManager::parseAssTime(info->end);
+        const int start = info->startMs();
+        const int end = info->endMs();
         if (start >= 0 && end >= 0 && start <= ms && ms <= end) {
             return info;
         }

@@ -101,6 +101,15 @@ CaptionStyleBar::CaptionStyleBar(QWidget* parent)
 
     changeLang();
     updateEnabled();
+
+    // A change still waiting for its delay dies with the records it was made on.
+    connect(CaptionManager::instance(), &CaptionManager::aboutToReplaceCaptions, this, [this]() {
+        m_commitTimer->stop();
+        m_pendingCaption = nullptr;
+        m_caption = nullptr;
+        loadValues();
+        updateEnabled();
+    });
 }
 
 QSpinBox* CaptionStyleBar::addSpinBox(const QString& objectName, int minimum, int maximum)

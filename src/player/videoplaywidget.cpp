@@ -7,6 +7,7 @@
 #include "captionstylebar.h"
 #include "globalmanager.h"
 #include "mpvwidget.h"
+#include "settings.h"
 
 #include <QComboBox>
 #include <QDebug>
@@ -296,11 +297,10 @@ void VideoPlayWidget::initShortCut()
 
 void VideoPlayWidget::initConfig()
 {
-    GlobalManager* global = GlobalManager::instance();
-    if (global->readSettings(AppConfig::PLAYER_MUTE, false).toBool()) {
+    if (Settings::instance()->value(AppConfig::PLAYER_MUTE).toBool()) {
         soundButtonClickHandle(m_soundButton);
     }
-    const int volume = global->readSettings(AppConfig::PLAYER_VOLUME, 100).toInt();
+    const int volume = Settings::instance()->value(AppConfig::PLAYER_VOLUME).toInt();
     if (m_soundSlider->value() == volume) {
         m_mpv->setVolume(volume);
     } else {
@@ -409,34 +409,18 @@ void VideoPlayWidget::playControlButtonClickHandle(QObject* widget)
         m_styleBar->setInsertEnabled(false);
         break;
     case ButtonCapture:
-        captureNow();
+        emit captureNowRequested();
         break;
     case ButtonCaptureSelected:
         pause();
         captureType = 1;
         emit captureSelectSignal(0);
+        emit captureCheckedRequested();
         break;
     default:
         break;
     }
     emit buttonClicked(id);
-}
-
-void VideoPlayWidget::captureNow()
-{
-    pause();
-    const QString path = GlobalManager::instance()->getTempPath(AppConfig::APP_NAME) + QStringLiteral("/shot.jpg");
-    const QPixmap pixmap = m_mpv->takeSnapshot(path);
-    if (pixmap.isNull()) {
-        qDebug() << "capture failed.";
-        return;
-    }
-    AppConfig::CaptureData data;
-    data.pixmap = pixmap;
-    data.time = m_mpv->getCurrentSecond();
-    data.frame = m_mpv->getCurrentFrame();
-    qDebug() << "capture complete:" << data.time << data.frame;
-    GlobalManager::instance()->emitEvent(AppConfig::CAPTURE_IMAGE, QVariant::fromValue(data));
 }
 
 void VideoPlayWidget::soundButtonClickHandle(QObject* widget)
@@ -453,7 +437,7 @@ void VideoPlayWidget::soundButtonClickHandle(QObject* widget)
 void VideoPlayWidget::loadFile()
 {
     GlobalManager* global = GlobalManager::instance();
-    const QString start = global->readSettings(AppConfig::OPEN_FILE_PATH, QString()).toString();
+    const QString start = Settings::instance()->value(AppConfig::OPEN_FILE_PATH).toString();
     const QString filter = QStringLiteral("%1  (*.mp4 *.avi *.mkv *.wmv *.mov *.flv *.webm)").arg(tr("Video Files"));
     const QString name = QFileDialog::getOpenFileName(this, tr("Open Video"), start, filter);
     // A cancelled dialog leaves the player and the remembered folder as they were.
@@ -600,6 +584,7 @@ void VideoPlayWidget::mpvEventHandle(mpv_event* event)
         case MpvWidget::RequestSubAdd:
             qDebug() << "Caption load complete";
             emit captureEventSignal(MpvWidget::RequestSubAdd, 0);
+            emit subtitleTrackAdded();
             break;
         case MpvWidget::RequestSubRemove:
             qDebug() << "Caption remove complete";
@@ -612,6 +597,7 @@ void VideoPlayWidget::mpvEventHandle(mpv_event* event)
             } else {
                 emit captureSelectSignal(17);
             }
+            emit captureSeekAnswered();
             break;
         default:
             break;

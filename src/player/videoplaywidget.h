@@ -94,6 +94,12 @@ signals:
     void playerTimePos(double time);
     void captureSelectSignal(int type);
     void captionCheckStateChangedSignal(CaptionInfo* event, int state);
+    // The same happenings by name, for the capture flows: libmpv's reply
+    // numbers stay inside the panel.
+    void captureNowRequested();
+    void captureCheckedRequested();
+    void captureSeekAnswered();
+    void subtitleTrackAdded();
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -106,7 +112,6 @@ private:
     QPushButton* createControlButton(int id, const QString& icon, const QString& styleProperty);
     void setPlayIcon(bool playing);
     void refreshCaption(double seconds);
-    void captureNow();
     void loadFailedHandle(const QString& path, const QString& reason);
     void resetTimeDisplay();
 

@@ -5,6 +5,7 @@
 #include "captionitem.h"
 #include "captionmanager.h"
 #include "globalmanager.h"
+#include "settings.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -24,6 +25,14 @@ CaptionWidget::CaptionWidget(QWidget* parent)
     setObjectName(QStringLiteral("caption_widget"));
     setAttribute(Qt::WA_StyledBackground, true);
     buildUi();
+    // Rows hold the records' pointers: they go before the records do.
+    connect(CaptionManager::instance(), &CaptionManager::aboutToReplaceCaptions, this, [this]() {
+        m_editItem = nullptr;
+        m_selectedItem = nullptr;
+        m_playingItem = nullptr;
+        m_list->clear();
+        m_items.clear();
+    });
     retranslate();
     createCaption(QByteArray());
 }
@@ -170,7 +179,7 @@ void CaptionWidget::buildUi()
 void CaptionWidget::fillLanguageBox()
 {
     CaptionManager* captions = CaptionManager::instance();
-    const int stored = GlobalManager::instance()->readSettings(AppConfig::AI_CAPTION_LANG, 7).toInt();
+    const int stored = Settings::instance()->value(AppConfig::AI_CAPTION_LANG).toInt();
     const int current = m_languageBox->count() > 0 ? currentLanguageKey() : stored;
     const QSignalBlocker blocker(m_languageBox);
     m_languageBox->clear();
@@ -334,7 +343,7 @@ void CaptionWidget::captionListItemClicked(QListWidgetItem* row)
     if (!info || !item) {
         return;
     }
-    GlobalManager::instance()->emitEvent(AppConfig::TIME_POS, CaptionManager::parseAssTime(info->start));
+    GlobalManager::instance()->emitEvent(AppConfig::TIME_POS, info->startMs());
     if (m_selectedItem && m_selectedItem != item) {
         m_selectedItem->setSelect(false);
     }
@@ -354,8 +363,8 @@ void CaptionWidget::changeCaptionPlayByTime(double seconds)
     }
     for (CaptionItem* item : qAsConst(m_items)) {
         const CaptionInfo* info = item->getCaptionInfo();
-        const double start = CaptionManager::parseAssTime(info->start);
-        const double end = CaptionManager::parseAssTime(info->end);
+        const double start = info->startMs();
+        const double end = info->endMs();
         if (start <= ms && ms <= end) {
             item->changeToPlay(true);
             m_playingItem = item;

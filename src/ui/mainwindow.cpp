@@ -5,8 +5,9 @@
 #include "captioninfo.h"
 #include "captionmanager.h"
 #include "captionwidget.h"
+#include "capturecontroller.h"
+#include "playercapturesource.h"
 #include "checkupdatedialog.h"
-#include "framegrabber.h"
 #include "globalmanager.h"
 #include "httpmanager.h"
 #include "imageitem.h"
@@ -18,6 +19,7 @@
 #include "registerdialog.h"
 #include "registerguidedialog.h"
 #include "screenmanager.h"
+#include "settings.h"
 #include "titlebar.h"
 #include "translatemanager.h"
 #include "videoplaywidget.h"
@@ -43,18 +45,6 @@
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QWindow>
-
-namespace {
-// Steps a capture waits for.
-enum CaptureStep {
-    StepNone = 0,
-    StepSelect = 1,
-    StepSingle = 2,
-    StepAll = 3,
-};
-// A seek whose playback restart never comes must not stall a pass for ever.
-constexpr int kRestartTimeoutMs = 5000;
-} // namespace
 
 MainWindow::MainWindow(QWidget* parent)
     : CFramelessWindow(parent)
@@ -95,6 +85,7 @@ void MainWindow::initialize()
     connect(m_loadingDialog, &QDialog::finished, this, [](int) {
         GlobalManager::instance()->emitEvent(AppConfig::STOP_AI_CAPTION, QString());
     });
+    initCaptureController();
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(AppConfig::rate(5, 5, 5, 5));
@@ -134,30 +125,14 @@ void MainWindow::initialize()
     connect(HttpManager::instance(), &HttpManager::requestError, this, &MainWindow::httpRequestErrorHandle);
 
     GlobalManager* global = GlobalManager::instance();
-    if (global->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString().isEmpty()) {
+    if (Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString().isEmpty()) {
         global->saveSettings(AppConfig::FILE_SAVE_PATH, global->getWritePath(AppConfig::APP_NAME));
     }
-    if (global->readSettings(AppConfig::OPEN_FILE_PATH, QString()).toString().isEmpty()) {
+    if (Settings::instance()->value(AppConfig::OPEN_FILE_PATH).toString().isEmpty()) {
         global->saveSettings(AppConfig::OPEN_FILE_PATH,
                              QStandardPaths::writableLocation(QStandardPaths::MoviesLocation));
     }
 
-    m_restartTimeout = new QTimer(this);
-    m_restartTimeout->setSingleShot(true);
-    connect(m_restartTimeout, &QTimer::timeout, this, [this]() {
-        if (m_pendingStep == StepNone) {
-            // The seek was never answered: end the pass instead of waiting for ever.
-            qDebug() << "Error seekToPositionForCapture: no reply";
-            m_captureQueue.clear();
-            m_currentImageItem = nullptr;
-            m_loadingDialog->hide();
-            showMessage(tr("Capture failed"), tr("The player did not reach the requested moment."));
-            return;
-        }
-        qDebug() << "capture: no playback restart after the seek, capturing anyway";
-        m_restartSeen = true;
-        tryCaptureStep();
-    });
     connect(TranslateManager::instance(), &TranslateManager::notify, this, [this](int) { retranslate(); });
     retranslate();
 }
@@ -174,20 +149,11 @@ void MainWindow::initVideoPlayWidget()
 {
     m_videoPlayWidget = new VideoPlayWidget(this);
     connect(m_videoPlayWidget, &VideoPlayWidget::dragFileSignal, this, &MainWindow::openMediaFile);
-    connect(m_videoPlayWidget, &VideoPlayWidget::captureSelectSignal, this, &MainWindow::captureSelectHandle);
-    connect(m_videoPlayWidget, &VideoPlayWidget::captureEventSignal, this, &MainWindow::captureEventHandle);
     connect(m_videoPlayWidget, &VideoPlayWidget::captionEditSignal, this, &MainWindow::captionEditHandle);
     connect(m_videoPlayWidget, &VideoPlayWidget::playerTimePos, this, [this](double seconds) {
         m_captionWidget->changeCaptionPlayByTime(seconds);
     });
-    MpvWidget* mpv = m_videoPlayWidget->getMpvWidget();
-    connect(mpv, &MpvWidget::playbackRestarted, this, [this](MpvWidget::RestartKind kind) {
-        if (kind == MpvWidget::RestartAfterCaptureSeek && m_pendingStep != StepNone) {
-            m_restartSeen = true;
-            tryCaptureStep();
-        }
-    });
-    connect(mpv, &MpvWidget::loadFailed, this, [this](const QString& path, const QString& reason) {
+    connect(m_videoPlayWidget->getMpvWidget(), &MpvWidget::loadFailed, this, [this](const QString& path, const QString& reason) {
         showMessage(tr("The video cannot be played"),
                     tr("%1 could not be opened: %2").arg(QFileInfo(path).fileName(), reason));
     });
@@ -299,7 +265,7 @@ void MainWindow::initMenu()
     addAction(MenuQuit)->setShortcut(QKeySequence::Quit);
     connect(m_menu, &QMenu::aboutToShow, this, [this]() {
         const QString format
-            = GlobalManager::instance()->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_JPG).toString();
+            = Settings::instance()->value(AppConfig::FILE_EXTENSION).toString();
         for (QAction* action : m_formatGroup->actions()) {
             action->setChecked(action->data().toString() == format);
         }
@@ -320,10 +286,9 @@ void MainWindow::initTopBarMenu()
 
 void MainWindow::initConfig()
 {
-    GlobalManager* global = GlobalManager::instance();
-    m_previewWidget->changeOutputDir(global->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString());
+    m_previewWidget->changeOutputDir(Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString());
     m_previewWidget->changeFileExtension(
-        global->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_JPG).toString());
+        Settings::instance()->value(AppConfig::FILE_EXTENSION).toString());
 }
 
 QMap<int, QString> MainWindow::getMenuTextMap() const
@@ -358,7 +323,7 @@ void MainWindow::retranslate()
 void MainWindow::startUp(const QStringList& arguments)
 {
     GlobalManager* global = GlobalManager::instance();
-    if (!global->readSettings(AppConfig::FIRST_OPEN_APP, false).toBool()) {
+    if (!Settings::instance()->value(AppConfig::FIRST_OPEN_APP).toBool()) {
         global->saveSettings(AppConfig::FIRST_OPEN_APP, true);
         global->openUrl(global->getHomePageUrl());
     }
@@ -412,7 +377,7 @@ void MainWindow::menuTapByType(int type)
         showCaptionWidget(!m_captionWidget->isVisible());
         break;
     case MenuOutputFolder: {
-        const QString current = global->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString();
+        const QString current = Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString();
         const QString dir = QFileDialog::getExistingDirectory(this, tr("Choose the output folder"), current);
         if (!dir.isEmpty()) {
             global->saveSettings(AppConfig::FILE_SAVE_PATH, dir);
@@ -647,11 +612,13 @@ void MainWindow::globalEventHandle(QString eventName, QVariant value)
         }
     }
     if (eventName == AppConfig::CHANGE_CAPTION) {
-        m_editedCaption = value.canConvert<CaptionInfo*>() ? value.value<CaptionInfo*>() : nullptr;
+        m_captureController->setEditedCaption(value.canConvert<CaptionInfo*>() ? value.value<CaptionInfo*>()
+                                                                               : nullptr);
     }
     if (eventName == AppConfig::UPDATE_CAPTION_NEW) {
-        m_editedCaption = value.canConvert<CaptionInfo*>() ? value.value<CaptionInfo*>() : nullptr;
-        captions->changeCaptionNew(m_editedCaption, false);
+        CaptionInfo* caption = value.canConvert<CaptionInfo*>() ? value.value<CaptionInfo*>() : nullptr;
+        m_captureController->setEditedCaption(caption);
+        captions->changeCaptionNew(caption, false);
     }
     if (eventName == AppConfig::CREATE_CAPTION_COMPLETE) {
         if (!captions->getCaptions().isEmpty()) {
@@ -674,13 +641,8 @@ void MainWindow::globalEventHandle(QString eventName, QVariant value)
     if (eventName == AppConfig::STOP_AI_CAPTION) {
         GlobalManager::instance()->stopConvert();
         HttpManager::instance()->stopUploadFile();
-        m_captureQueue.clear();
+        m_captureController->cancel();
         m_aiCaptionRunning = false;
-        // A cancelled re-capture stops before its next frame.
-        if (m_currentImageItem && m_pendingStep == StepNone) {
-            m_currentImageItem = nullptr;
-            m_restartTimeout->stop();
-        }
     }
     if (eventName == AppConfig::REMOVE_CAPTION) {
         m_videoPlayWidget->removeCaption(0);
@@ -691,14 +653,13 @@ void MainWindow::globalEventHandle(QString eventName, QVariant value)
         m_titleBar->showButtonByRegister(value.toInt() == 1);
     }
     if (eventName == AppConfig::SETTING_CHANGE) {
-        GlobalManager* global = GlobalManager::instance();
         const QString key = value.toString();
         if (key == AppConfig::FILE_SAVE_PATH) {
-            m_previewWidget->changeOutputDir(global->readSettings(AppConfig::FILE_SAVE_PATH, QString()).toString());
+            m_previewWidget->changeOutputDir(Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString());
         }
         if (key == AppConfig::FILE_EXTENSION) {
             m_previewWidget->changeFileExtension(
-                global->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_JPG).toString());
+                Settings::instance()->value(AppConfig::FILE_EXTENSION).toString());
         }
     }
 }
@@ -760,8 +721,7 @@ void MainWindow::regenerateCaptions(CaptionInfo* info)
     CaptionInfo* target = info ? info : captions->getCaptions().constFirst();
     if (info) {
         // A text edit from the list: the re-capture follows the single-caption path.
-        m_editedCaption = info;
-        m_recaptureAllPending = false;
+        m_captureController->captionEdited(info, false);
     }
     m_videoPlayWidget->pause();
     captions->changeCaptionNew(target, false);
@@ -813,105 +773,29 @@ void MainWindow::httpRequestErrorHandle(const QString& key, const QJsonObject& o
 
 // ---------------------------------------------------------------- capture
 
-void MainWindow::emitCapture(const QPixmap& pixmap)
+void MainWindow::initCaptureController()
 {
-    MpvWidget* mpv = m_videoPlayWidget->getMpvWidget();
-    AppConfig::CaptureData data;
-    data.pixmap = pixmap;
-    data.time = mpv->getCurrentSecond();
-    data.frame = mpv->getCurrentFrame();
-    qDebug() << "capture one select image complete:" << data.time << data.frame;
-    GlobalManager::instance()->emitEvent(AppConfig::CAPTURE_IMAGE, QVariant::fromValue(data));
-}
-
-void MainWindow::seekForCapture(double seconds)
-{
-    m_pendingStep = StepNone;
-    m_waitElapsed = false;
-    m_restartSeen = false;
-    m_videoPlayWidget->pause();
-    m_restartTimeout->start(2 * kRestartTimeoutMs);
-    m_videoPlayWidget->getMpvWidget()->seekToPositionForCapture(seconds);
-}
-
-void MainWindow::armCaptureStep(int step)
-{
-    // After the seek's reply: 500 ms, and the frame of that seek on screen.
-    m_pendingStep = step;
-    m_waitElapsed = false;
-    QTimer::singleShot(500, this, [this]() {
-        m_waitElapsed = true;
-        tryCaptureStep();
+    m_captureController
+        = new CaptureController(new PlayerCaptureSource(m_videoPlayWidget), m_imagesWidget, this);
+    CaptureController* capture = m_captureController;
+    connect(m_videoPlayWidget, &VideoPlayWidget::captureNowRequested, capture, &CaptureController::captureNow);
+    connect(m_videoPlayWidget, &VideoPlayWidget::captureCheckedRequested, capture,
+            &CaptureController::startCaptureChecked);
+    connect(capture, &CaptureController::busy, m_loadingDialog, &LoadingDialog::showWithText);
+    connect(capture, &CaptureController::idle, m_loadingDialog, &QWidget::hide);
+    connect(capture, &CaptureController::failed, this, &MainWindow::showMessage);
+    connect(capture, &CaptureController::frameReplaced, m_previewWidget, &PreviewWidget::updateImageShow);
+    connect(capture, &CaptureController::recaptureFinished, this, &MainWindow::recaptureFinished);
+    connect(capture, &CaptureController::checkedPassFinished, this, [this](int skipped) {
+        m_captionWidget->changeCaptureString(tr("Capture checked"));
+        if (skipped > 0) {
+            showMessage(tr("Some captions were not captured"),
+                        tr("%n caption(s) start at or after the end of the video, or have no readable start "
+                           "time, and were skipped.",
+                           nullptr, skipped));
+        }
+        emit captureSelectFinished();
     });
-    if (m_restartSeen) {
-        m_restartTimeout->stop();
-    } else {
-        m_restartTimeout->start(kRestartTimeoutMs);
-    }
-}
-
-void MainWindow::tryCaptureStep()
-{
-    if (m_pendingStep == StepNone || !m_waitElapsed || !m_restartSeen) {
-        return;
-    }
-    m_restartTimeout->stop();
-    const int step = m_pendingStep;
-    m_pendingStep = StepNone;
-    switch (step) {
-    case StepSelect:
-        captureSelectStep();
-        break;
-    case StepSingle:
-        recaptureSingleStep();
-        break;
-    case StepAll:
-        recaptureAllStep(m_recaptureItems);
-        break;
-    default:
-        break;
-    }
-}
-
-void MainWindow::captureSelectHandle(int type)
-{
-    if (type == 0) {
-        m_captureQueue.clear();
-        for (CaptionInfo* info : CaptionManager::instance()->getCaptions()) {
-            if (info->isCheck) {
-                m_captureQueue.append(info);
-            }
-        }
-        if (m_captureQueue.isEmpty()) {
-            return;
-        }
-        m_loadingDialog->showWithText(tr("Capturing images"));
-        CaptionInfo* first = m_captureQueue.takeFirst();
-        seekForCapture(FrameGrabber::captureSeconds(CaptionManager::parseAssTime(first->start)));
-    } else if (type == 17) {
-        armCaptureStep(StepSelect);
-    }
-}
-
-void MainWindow::captureSelectStep()
-{
-    const QPixmap pixmap = m_videoPlayWidget->getMpvWidget()->takeSnapshot();
-    if (pixmap.isNull()) {
-        qDebug() << "capture select image failed.";
-        m_loadingDialog->hide();
-        showMessage(tr("Capture failed"), tr("The frame could not be captured from the player."));
-        return;
-    }
-    emitCapture(pixmap);
-    if (!m_captureQueue.isEmpty()) {
-        CaptionInfo* next = m_captureQueue.takeFirst();
-        seekForCapture(FrameGrabber::captureSeconds(CaptionManager::parseAssTime(next->start)));
-        return;
-    }
-    m_videoPlayWidget->changeCaptureType(0);
-    m_captionWidget->changeCaptureString(tr("Capture checked"));
-    m_loadingDialog->hide();
-    emit captureSelectFinished();
 }
 
 void MainWindow::captionEditHandle(CaptionInfo* edit, bool isAll)
@@ -919,99 +803,7 @@ void MainWindow::captionEditHandle(CaptionInfo* edit, bool isAll)
     if (!m_videoPlayWidget->isLoadFile()) {
         return;
     }
-    m_videoPlayWidget->pause();
-    m_recaptureAllPending = isAll;
-    m_editedCaption = isAll ? nullptr : edit;
+    m_captureController->captionEdited(edit, isAll);
     CaptionManager::instance()->changeCaptionNew(edit, isAll);
     m_captionWidget->updateCaptionItem(isAll ? nullptr : edit);
-}
-
-void MainWindow::captureEventHandle(int type, const QVariant& data)
-{
-    Q_UNUSED(data)
-    MpvWidget* mpv = m_videoPlayWidget->getMpvWidget();
-    if (type == 14) {
-        const QList<ImageItem*> items = m_imagesWidget->items();
-        qDebug() << "EVENT_CODE_LOAD_CAPTION_COMPLETE" << items.size();
-        qDebug() << "caption_info:" << (m_editedCaption ? "true" : "false");
-        if (!m_editedCaption) {
-            if (!items.isEmpty() && m_recaptureAllPending) {
-                m_loadingDialog->showWithText(tr("Applying current style"));
-                m_recapturedPixmaps.clear();
-                m_currentImageItem = items.constFirst();
-                qDebug() << "seektoposition after load caption, seek index = 0";
-                seekForCapture(m_currentImageItem->getCpatureTime());
-                m_recaptureAllPending = false;
-            }
-        } else {
-            const double now = mpv->getCurrentSecond();
-            for (ImageItem* item : items) {
-                if (qAbs(item->getCpatureTime() - now) <= 0.05) {
-                    m_currentImageItem = item;
-                    break;
-                }
-            }
-            qDebug() << "m_current_image_item is nullptr:" << (m_currentImageItem ? "false" : "true");
-            if (m_currentImageItem) {
-                qDebug() << "capture time compare:" << m_currentImageItem->getCpatureTime() << now
-                         << mpv->getCurrentFrame();
-                if (m_currentImageItem->getCpatureTime() != now) {
-                    seekForCapture(m_currentImageItem->getCpatureTime());
-                } else {
-                    // Already there: the frame on screen only needs the new subtitles.
-                    m_restartSeen = true;
-                    armCaptureStep(StepSingle);
-                }
-            }
-        }
-    } else if (type == 16) {
-        if (m_currentImageItem) {
-            m_recaptureItems = m_imagesWidget->items();
-            armCaptureStep(m_editedCaption ? StepSingle : StepAll);
-        }
-    }
-}
-
-void MainWindow::recaptureSingleStep()
-{
-    if (!m_currentImageItem) {
-        return;
-    }
-    qDebug() << "重新截图-单张:" << m_currentImageItem->getCpatureTime();
-    const QPixmap pixmap = m_videoPlayWidget->getMpvWidget()->takeSnapshot();
-    m_currentImageItem->changeImageByPixmap(pixmap);
-    m_imagesWidget->updateImageShow();
-    m_previewWidget->updateImageShow();
-    m_currentImageItem = nullptr;
-    emit recaptureFinished();
-}
-
-void MainWindow::recaptureAllStep(const QList<ImageItem*>& items)
-{
-    if (items.size() <= m_recapturedPixmaps.size()) {
-        return;
-    }
-    MpvWidget* mpv = m_videoPlayWidget->getMpvWidget();
-    qDebug() << "重新截图:" << m_recapturedPixmaps.size() << mpv->getCurrentSecond();
-    const QPixmap pixmap = mpv->takeSnapshot();
-    if (pixmap.isNull()) {
-        m_loadingDialog->hide();
-        return;
-    }
-    m_recapturedPixmaps.append(pixmap);
-    if (m_currentImageItem) {
-        m_currentImageItem->changeImageByPixmap(pixmap);
-    }
-    m_imagesWidget->updateImageShow();
-    m_previewWidget->updateImageShow();
-    const int i = m_recapturedPixmaps.size();
-    if (i < items.size()) {
-        m_currentImageItem = items.at(i);
-        qDebug() << "seek index = " << i;
-        seekForCapture(m_currentImageItem->getCpatureTime());
-    } else {
-        m_currentImageItem = nullptr;
-        m_loadingDialog->hide();
-        emit recaptureFinished();
-    }
 }

@@ -15,6 +15,7 @@
 
 class AboutDialog;
 class CaptionInfo;
+class CaptureController;
 class CaptionWidget;
 class ImageItem;
 class ImagesWidget;
@@ -70,9 +71,7 @@ public:
     CaptionWidget* captionWidget() const { return m_captionWidget; }
     MessageDialog* messageDialog() const { return m_messageDialog; }
     LoadingDialog* loadingDialog() const { return m_loadingDialog; }
-    CaptionInfo* editedCaption() const { return m_editedCaption; }
-    QList<CaptionInfo*> captureQueue() const { return m_captureQueue; }
-    bool isRecaptureAllPending() const { return m_recaptureAllPending; }
+    CaptureController* captureController() const { return m_captureController; }
 
 public slots:
     void globalEventHandle(QString eventName, QVariant value);
@@ -104,17 +103,8 @@ private:
     void initConfig();
     void retranslate();
 
-    // Capture flows
-    void captureSelectHandle(int type);
-    void captureEventHandle(int type, const QVariant& data);
+    void initCaptureController();
     void captionEditHandle(CaptionInfo* edit, bool isAll);
-    void seekForCapture(double seconds);
-    void armCaptureStep(int step);
-    void tryCaptureStep();
-    void captureSelectStep();
-    void recaptureSingleStep();
-    void recaptureAllStep(const QList<ImageItem*>& items);
-    void emitCapture(const QPixmap& pixmap);
 
     // Automatic captions
     void autoCaptionHandle(int languageKey);
@@ -147,19 +137,7 @@ private:
     QActionGroup* m_languageGroup = nullptr;
     QMap<int, QAction*> m_menuActions;
 
-    // Capture state
-    QList<CaptionInfo*> m_captureQueue;
-    QList<QPixmap> m_recapturedPixmaps;
-    QPointer<ImageItem> m_currentImageItem;
-    CaptionInfo* m_editedCaption = nullptr;
-    bool m_recaptureAllPending = false;
-    // A capture waits for the seek's reply plus 500 ms and for the frame of
-    // that seek to be on screen (mpv's playback restart).
-    int m_pendingStep = 0;
-    bool m_waitElapsed = false;
-    bool m_restartSeen = false;
-    QTimer* m_restartTimeout = nullptr;
-    QList<ImageItem*> m_recaptureItems;
+    CaptureController* m_captureController = nullptr;
 
     bool m_aiCaptionRunning = false;
     bool m_updateAskedByUser = false;

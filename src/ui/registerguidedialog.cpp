@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "globalmanager.h"
 #include "registerdialog.h"
+#include "settings.h"
 #include "translatemanager.h"
 
 #include <QHBoxLayout>
@@ -67,7 +68,7 @@ bool RegisterGuideDialog::showAfterExport(QWidget* parent, const std::function<v
 {
     GlobalManager* global = GlobalManager::instance();
     if (global->isRegister()
-        || global->readInAppSettings(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT, false).toBool()) {
+        || Settings::instance()->inAppValue(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT).toBool()) {
         if (then) {
             then();
         }

@@ -1,4 +1,5 @@
 #include "appconfig.h"
+#include "captionmanager.h"
 #include "downloadmanager.h"
 #include "globalmanager.h"
 #include "licensemanager.h"
@@ -15,10 +16,42 @@
 #include <QSslSocket>
 
 #include <clocale>
+#include <cstdio>
+#include <cstring>
 #include <stdexcept>
+
+namespace {
+
+// --help and --version are answered before anything else starts, so that they
+// work without a display and while another copy runs.
+bool printInformation(int argc, char* argv[])
+{
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--version") == 0 || std::strcmp(argv[i], "-v") == 0) {
+            std::printf("glimmer %s\n", GLIMMER_VERSION);
+            return true;
+        }
+        if (std::strcmp(argv[i], "--help") == 0 || std::strcmp(argv[i], "-h") == 0) {
+            std::printf("Usage: glimmer [OPTION] [VIDEO]\n"
+                        "Turn the moments of a video into still pictures with their captions.\n"
+                        "VIDEO, a path or a file: URL, is opened at start-up.\n"
+                        "\n"
+                        "Options:\n"
+                        "  -h, --help     Display this help and exit.\n"
+                        "  -v, --version  Display the version and exit.\n");
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
+    if (printInformation(argc, argv)) {
+        return 0;
+    }
     QSharedMemory guard(AppConfig::APP_NAME);
 #ifndef Q_OS_WIN
     // A crashed run leaves its segment behind on Unix. Attaching and detaching
@@ -33,7 +66,7 @@ int main(int argc, char* argv[])
     }
     guard.create(1, QSharedMemory::ReadWrite);
 
-    AppConfig::registerMetaTypes();
+    CaptionManager::registerMetaTypes();
 
     auto* app = new QApplication(argc, argv);
     // libmpv refuses to start under a non-C numeric locale.

@@ -1,0 +1,48 @@
+#include "speechreply.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QJsonValue>
+
+#include <limits>
+
+namespace {
+// Service times are integers; anything else reads as 0.
+int jsonMs(const QJsonValue& value)
+{
+    if (!value.isDouble()) {
+        return 0;
+    }
+    const double ms = value.toDouble();
+    if (ms != static_cast<double>(static_cast<qint64>(ms)) || ms < std::numeric_limits<int>::min()
+        || ms > std::numeric_limits<int>::max()) {
+        return 0;
+    }
+    return static_cast<int>(ms);
+}
+} // namespace
+
+SpeechReply SpeechReply::parse(const QByteArray& body)
+{
+    SpeechReply reply;
+    const QJsonDocument document = QJsonDocument::fromJson(body);
+    const QJsonObject object = document.object();
+    reply.m_isAnswer = !object.isEmpty();
+    reply.m_state = object.value(QStringLiteral("state")).toString();
+    reply.m_message = object.value(QStringLiteral("message")).toString();
+    const QJsonArray utterances = object.value(QStringLiteral("utterances")).toArray();
+    reply.m_utterances.reserve(utterances.size());
+    for (const QJsonValue& value : utterances) {
+        const QJsonObject item = value.toObject();
+        reply.m_utterances.append({jsonMs(item.value(QStringLiteral("start_time"))),
+                                   jsonMs(item.value(QStringLiteral("end_time"))),
+                                   item.value(QStringLiteral("text")).toString()});
+    }
+    return reply;
+}
+
+bool SpeechReply::isFailure(const QByteArray& body) const
+{
+    return m_state == QLatin1String("failed") || (!body.isEmpty() && !m_isAnswer);
+}
