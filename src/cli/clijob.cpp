@@ -43,7 +43,16 @@ CliJob::CliJob(const CliOptions& options, const QString& workDir, ProgressReport
 CliJob::~CliJob()
 {
     QThreadPool::globalInstance()->waitForDone();
-    qDeleteAll(m_grabbers);
+    releaseGrabbers();
+}
+
+void CliJob::releaseGrabbers()
+{
+    // The first player carries libav's log for the whole process; once it is
+    // gone, the others would print straight to standard error. It goes last.
+    while (!m_grabbers.isEmpty()) {
+        delete m_grabbers.takeLast();
+    }
 }
 
 void CliJob::fail(const QString& message, int exitCode)
@@ -412,8 +421,7 @@ void CliJob::maybeFinish()
 void CliJob::finishPicture()
 {
     // The grabbers have done their part; their memory goes before the picture is encoded.
-    qDeleteAll(m_grabbers);
-    m_grabbers.clear();
+    releaseGrabbers();
 
     QImage composite = m_composer ? m_composer->finish() : ImageComposer::stack(m_bands, m_options.layout);
     m_composer.reset();

@@ -49,6 +49,7 @@ private:
     void succeed(const QString& summary);
     bool checkOutput();
     bool addGrabber(const QString& video, int threads);
+    void releaseGrabbers();
     bool chooseShots();
     void grabberReady();
     void grabberFailed(FrameGrabber::Failure failure, const QString& detail);
