@@ -85,13 +85,14 @@ void CliJob::start()
     }
     GlobalManager::instance()->setCurrentFile(video);
 
-    // The first player loads the video while the subtitles are being
-    // prepared; as many more as there are cores (and captions) join it.
+    // The players load the video while the subtitles are being prepared;
+    // those beyond the number of captions are let go again.
     const int cores = qMax(1, QThread::idealThreadCount());
     const int most = qMin(cores, kMaxGrabbers);
-    const int threads = qMax(1, cores / most);
-    if (!addGrabber(video.absoluteFilePath(), threads)) {
-        return;
+    for (int i = 0; i < most; ++i) {
+        if (!addGrabber(video.absoluteFilePath(), qMax(1, cores / most))) {
+            return;
+        }
     }
     QString error;
     const QString assPath = CaptionSource::load(video.absoluteFilePath(), m_options.subtitles, m_workDir, &error);
@@ -102,10 +103,8 @@ void CliJob::start()
     if (!chooseShots()) {
         return;
     }
-    while (m_grabbers.size() < qMin(most, m_chosen.size())) {
-        if (!addGrabber(video.absoluteFilePath(), threads)) {
-            return;
-        }
+    while (m_grabbers.size() > m_chosen.size()) {
+        delete m_grabbers.takeLast();
     }
     for (FrameGrabber* grabber : qAsConst(m_grabbers)) {
         grabber->setSubtitles(assPath);
@@ -190,7 +189,7 @@ void CliJob::grabberReady()
     if (m_done || m_chosen.isEmpty()) {
         return;
     }
-    // Capturing starts with the first player ready; the others join as they come.
+    // Capturing starts with the first player ready; the others join as they load.
     if (!m_capturing) {
         beginCapture();
     } else {
