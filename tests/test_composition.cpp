@@ -3,6 +3,7 @@
 // or overlap shows up as a wrong colour.
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "imagecomposer.h"
 #include "imageitem.h"
 #include "previewwidget.h"
 #include "propertyitem.h"
@@ -51,6 +52,9 @@ private slots:
     void layouts_data();
     void layouts();
     void emptySelectionKeepsComposite();
+    void tallCanvasIsExact();
+    void scaledToWidthMatchesQt_data();
+    void scaledToWidthMatchesQt();
 
 private:
     QPixmap compose(const QList<QSize>& sizes, int layout, const QString& x, const QString& y,
@@ -207,6 +211,58 @@ void TestComposition::emptySelectionKeepsComposite()
     GlobalManager::instance()->selectedImages().clear();
     QVERIFY(m_preview->getGroupPixmap().isNull());
     QCOMPARE(m_preview->groupPixmap().cacheKey(), first.cacheKey());
+}
+
+void TestComposition::tallCanvasIsExact()
+{
+    // Far past the 32767 rows a painter can address: 45 full-HD frames.
+    QList<QPixmap> frames;
+    for (int i = 0; i < 45; ++i) {
+        frames << makeFrame(i, 1920, 1080);
+    }
+    const QImage canvas = PreviewWidget::composeImages(frames, PreviewWidget::Vertical, 0, 0, 1);
+    frames.clear();
+    QCOMPARE(canvas.size(), QSize(1920, 48600));
+    for (int row = 0; row < canvas.height(); ++row) {
+        const auto* line = reinterpret_cast<const QRgb*>(canvas.constScanLine(row));
+        for (int col = 0; col < canvas.width(); ++col) {
+            if ((line[col] | 0xff000000) != frameColor(row / 1080, col, row % 1080)) {
+                QFAIL(qPrintable(QStringLiteral("pixel (%1,%2) is wrong").arg(col).arg(row)));
+            }
+        }
+    }
+    // Halved for export: every other row and column, down to the last.
+    const QImage half = ImageComposer::scaledToWidth(canvas, 960);
+    QCOMPARE(half.size(), QSize(960, 24300));
+    for (int row = 0; row < half.height(); row += 7) {
+        const auto* line = reinterpret_cast<const QRgb*>(half.constScanLine(row));
+        const auto* source = reinterpret_cast<const QRgb*>(canvas.constScanLine(2 * row));
+        for (int col = 0; col < half.width(); ++col) {
+            QCOMPARE(line[col], source[2 * col]);
+        }
+    }
+}
+
+void TestComposition::scaledToWidthMatchesQt_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<int>("width");
+    QTest::newRow("half") << QSize(640, 360) << 320;
+    QTest::newRow("odd factor") << QSize(333, 99) << 137;
+    QTest::newRow("enlarged") << QSize(1280, 720) << 1700;
+    QTest::newRow("tiny") << QSize(7, 5) << 3;
+    QTest::newRow("one pixel less") << QSize(1920, 1080) << 1919;
+}
+
+void TestComposition::scaledToWidthMatchesQt()
+{
+    QFETCH(QSize, size);
+    QFETCH(int, width);
+    const QImage frame = makeFrame(3, size.width(), size.height()).toImage();
+    const QImage expected = frame.scaledToWidth(width, Qt::FastTransformation);
+    const QImage scaled = ImageComposer::scaledToWidth(frame, width);
+    QCOMPARE(scaled.size(), expected.size());
+    QVERIFY(scaled == expected.convertToFormat(scaled.format()));
 }
 
 QTEST_MAIN(TestComposition)

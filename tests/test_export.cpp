@@ -65,6 +65,7 @@ private slots:
     void unusableOutputFolderFallsBack();
     void nothingLostWhenNoFolderTakesFiles();
     void tooTallForWebpIsReported();
+    void watermarkOnTallPicture();
     void writeFailureHasReason();
     void revealFallsBackToFolderQuietly();
 
@@ -350,6 +351,27 @@ void TestExport::tooTallForWebpIsReported()
     QCOMPARE(waitFinished(previewSpy, &errors), QStringList());
     QCOMPARE(errors.size(), 1);
     QVERIFY(errors.first().contains(QStringLiteral("too tall")));
+}
+
+void TestExport::watermarkOnTallPicture()
+{
+    // Past the painter's 32767 rows the mark still lands in the middle, pixel
+    // for pixel as on a picture of the same width whose height differs by an
+    // even number of rows. (The very first mark of a run draws its glyphs
+    // before they are cached, a shade apart: one goes first.)
+    QImage small(640, 1000, QImage::Format_RGB32);
+    small.fill(QColor(40, 40, 40));
+    QImage first = small.copy();
+    GlobalManager::changeImageWithWaterMark(first, AppConfig::APP_NAME);
+    QImage tall(640, 70000, QImage::Format_RGB32);
+    tall.fill(QColor(40, 40, 40));
+    const QImage plain = tall;
+    GlobalManager::changeImageWithWaterMark(small, AppConfig::APP_NAME);
+    GlobalManager::changeImageWithWaterMark(tall, AppConfig::APP_NAME);
+    const QRect mark = TestSupport::changedBox(plain.copy(0, 0, 640, 1000), small);
+    QVERIFY(mark.width() > 300);
+    QCOMPARE(TestSupport::changedBox(plain, tall), mark.translated(0, 34500));
+    QVERIFY(tall.copy(0, 34500, 640, 1000) == small);
 }
 
 void TestExport::writeFailureHasReason()

@@ -354,38 +354,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>图片为空。</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>此系统无法写入 %1 图片，请选择 PNG。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>图片太高，无法保存为 WEBP：%1×%2 像素，而 WEBP 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>图片太宽，无法保存为 WEBP：%1×%2 像素，而 WEBP 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>图片太高，无法保存为 JPG：%1×%2 像素，而 JPG 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>图片太宽，无法保存为 JPG：%1×%2 像素，而 JPG 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>无法创建文件：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>写入图片失败：%1</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -648,6 +616,41 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>缩放比例为 0，没有可导出的图片。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>图片为空。</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>此系统无法写入 %1 图片，请选择 PNG。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>图片太高，无法保存为 WEBP：%1×%2 像素，而 WEBP 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>图片太宽，无法保存为 WEBP：%1×%2 像素，而 WEBP 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>图片太高，无法保存为 JPG：%1×%2 像素，而 JPG 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>图片太宽，无法保存为 JPG：%1×%2 像素，而 JPG 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>无法创建文件：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>写入图片失败：%1</translation>
     </message>
 </context>
 <context>

@@ -354,38 +354,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>Das Bild ist leer.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Dieses System kann keine %1-Bilder schreiben. Wählen Sie PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu hoch für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu breit für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu hoch für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu breit für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Die Datei kann nicht angelegt werden: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Das Bild konnte nicht geschrieben werden: %1</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -650,6 +618,41 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>Die Skalierung ist 0: Es gibt kein Bild zum Exportieren.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>Das Bild ist leer.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Dieses System kann keine %1-Bilder schreiben. Wählen Sie PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu hoch für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu breit für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu hoch für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu breit für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Die Datei kann nicht angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Das Bild konnte nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>

@@ -354,38 +354,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>La imagen está vacía.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Este sistema no puede guardar imágenes %1. Elija PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado alta para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado ancha para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado alta para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado ancha para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>No se puede crear el archivo: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>No se ha podido guardar la imagen: %1</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -650,6 +618,41 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>La escala es 0: no hay ninguna imagen que exportar.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>La imagen está vacía.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Este sistema no puede guardar imágenes %1. Elija PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado alta para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado ancha para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado alta para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado ancha para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>No se puede crear el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>No se ha podido guardar la imagen: %1</translation>
     </message>
 </context>
 <context>

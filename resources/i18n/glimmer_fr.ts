@@ -354,38 +354,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>L’image est vide.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Ce système ne peut pas enregistrer d’images %1. Choisissez PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop haute pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop large pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop haute pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop large pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossible de créer le fichier : %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>L’écriture de l’image a échoué : %1</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -650,6 +618,41 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>L’échelle est à 0 : il n’y a aucune image à exporter.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>L’image est vide.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Ce système ne peut pas enregistrer d’images %1. Choisissez PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop haute pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop large pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop haute pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop large pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Impossible de créer le fichier : %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>L’écriture de l’image a échoué : %1</translation>
     </message>
 </context>
 <context>

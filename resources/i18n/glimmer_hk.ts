@@ -354,38 +354,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>圖片是空的。</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>此系統無法寫入 %1 圖片，請選擇 PNG。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太高，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太寬，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太高，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太寬，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>無法建立檔案：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>寫入圖片失敗：%1</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -648,6 +616,41 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>縮放比例為 0，沒有可匯出的圖片。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>圖片是空的。</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>此系統無法寫入 %1 圖片，請選擇 PNG。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太高，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太寬，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太高，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太寬，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>無法建立檔案：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>寫入圖片失敗：%1</translation>
     </message>
 </context>
 <context>

@@ -354,38 +354,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>L’immagine è vuota.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Questo sistema non può salvare immagini %1. Scegli PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo alta per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo larga per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo alta per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo larga per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossibile creare il file: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Scrittura dell’immagine non riuscita: %1</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -650,6 +618,41 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>La scala è 0: non c’è alcuna immagine da esportare.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>L’immagine è vuota.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Questo sistema non può salvare immagini %1. Scegli PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo alta per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo larga per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo alta per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo larga per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Impossibile creare il file: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Scrittura dell’immagine non riuscita: %1</translation>
     </message>
 </context>
 <context>

@@ -354,38 +354,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>画像が空です。</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>このシステムでは %1 画像を書き出せません。PNG を選んでください。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が縦に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が横に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が縦に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が横に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>ファイルを作成できません：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>画像の書き込みに失敗しました：%1</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -648,6 +616,41 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>倍率が 0 のため、エクスポートする画像がありません。</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>画像が空です。</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>このシステムでは %1 画像を書き出せません。PNG を選んでください。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が縦に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が横に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が縦に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が横に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>ファイルを作成できません：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>画像の書き込みに失敗しました：%1</translation>
     </message>
 </context>
 <context>

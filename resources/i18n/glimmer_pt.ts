@@ -354,38 +354,6 @@
 </context>
 <context>
     <name>GlobalManager</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>A imagem está vazia.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Este sistema não consegue gravar imagens %1. Escolha PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é alta demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é larga demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é alta demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é larga demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Não é possível criar o arquivo: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Falha ao gravar a imagem: %1</translation>
-    </message>
 </context>
 <context>
     <name>HttpManager</name>
@@ -650,6 +618,41 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>A escala é 0: não há imagem para exportar.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>A imagem está vazia.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Este sistema não consegue gravar imagens %1. Escolha PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é alta demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é larga demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é alta demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é larga demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Não é possível criar o arquivo: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Falha ao gravar a imagem: %1</translation>
     </message>
 </context>
 <context>

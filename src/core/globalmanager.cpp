@@ -6,16 +6,13 @@
 #include "filereveal.h"
 #include "logger.h"
 #include "outputfiles.h"
+#include "picturewriter.h"
 #include "settings.h"
 
 #include <QDebug>
 #include <QDesktopServices>
 #include <QFile>
 #include <QFontMetrics>
-#include <QFontMetricsF>
-#include <QImageWriter>
-#include <QPainter>
-#include <QSaveFile>
 #include <QTime>
 #include <QUrl>
 
@@ -191,46 +188,6 @@ void GlobalManager::httpRequestError(QString key, const QJsonObject& object, con
 
 // ---------------------------------------------------------------- export helpers
 
-namespace {
-// Largest side each encoder accepts; beyond it the writer fails with no reason.
-constexpr int kWebpMaxSide = 16383;
-constexpr int kJpegMaxSide = 65500;
-
-void paintWaterMark(QPaintDevice* device, int width, int height, const QString& text)
-{
-    QPainter painter(device);
-    const int s = qMin(width, height);
-    QFont font1(QStringLiteral("Microsoft YaHei"));
-    font1.setPointSize(qMax(1, static_cast<int>(s * 0.15)));
-    painter.setFont(font1);
-    painter.setOpacity(0.6);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform
-                           | QPainter::TextAntialiasing);
-    const QFontMetricsF metrics1(font1);
-    const double tw = metrics1.horizontalAdvance(text);
-    const double th = metrics1.height();
-
-    const QString tagline = QStringLiteral("Get the gleam moments in video");
-    QFont font2(QStringLiteral("Microsoft YaHei"));
-    font2.setPointSize(GlobalManager::getFontSizeByTextAndWidth(tagline, static_cast<int>(tw)));
-
-    QPen pen(QColor(255, 255, 255));
-    pen.setWidth(1);
-    painter.setPen(pen);
-    painter.setBrush(QBrush(QColor(255, 255, 255), Qt::SolidPattern));
-
-    const double x1 = (width - tw) * 0.5;
-    const double y1 = (th * 0.5 + height) * 0.5;
-    painter.drawText(QPointF(x1, y1), text);
-
-    painter.setFont(font2);
-    const QFontMetricsF metrics2(font2);
-    const double x2 = (width - metrics2.horizontalAdvance(tagline)) * 0.5;
-    painter.drawText(QPointF(x2, y1 + th / 2.5), tagline);
-    painter.end();
-}
-} // namespace
-
 QString GlobalManager::saveImage(const QPixmap& pixmap, const QString& dir, const QString& name,
                                  const QString& ext, QString* error)
 {
@@ -253,59 +210,13 @@ QString GlobalManager::saveImage(const QImage& image, const QString& dir, const 
         ++n;
     }
 
-    auto fail = [&](const QString& reason) {
+    QString reason;
+    if (!PictureWriter::write(image, path, format, &reason)) {
         qWarning() << "saveImage failed:" << path << reason;
         if (error) {
             *error = reason;
         }
         return QString();
-    };
-
-    const QByteArray codec = format.toLower().toUtf8();
-    const QString upper = format.toUpper();
-    if (image.isNull()) {
-        return fail(tr("The picture is empty."));
-    }
-    if (!QImageWriter::supportedImageFormats().contains(codec)) {
-        return fail(tr("This system cannot write %1 pictures. Choose PNG.").arg(upper));
-    }
-    const int longest = qMax(image.width(), image.height());
-    const bool tall = image.height() >= image.width();
-    if (codec == "webp" && longest > kWebpMaxSide) {
-        return fail((tall ? tr("The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at "
-                               "most %3 pixels on a side. Choose PNG or a smaller scale.")
-                          : tr("The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at "
-                               "most %3 pixels on a side. Choose PNG or a smaller scale."))
-                        .arg(image.width())
-                        .arg(image.height())
-                        .arg(kWebpMaxSide));
-    }
-    if ((codec == "jpg" || codec == "jpeg") && longest > kJpegMaxSide) {
-        return fail((tall ? tr("The picture is too tall for JPG: %1x%2 pixels, and JPG holds at "
-                               "most %3 pixels on a side. Choose PNG or a smaller scale.")
-                          : tr("The picture is too wide for JPG: %1x%2 pixels, and JPG holds at "
-                               "most %3 pixels on a side. Choose PNG or a smaller scale."))
-                        .arg(image.width())
-                        .arg(image.height())
-                        .arg(kJpegMaxSide));
-    }
-
-    // Written beside the target and renamed on success, so a failed write never
-    // leaves a truncated picture that looks like a result.
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return fail(tr("Cannot create the file: %1").arg(file.errorString()));
-    }
-    // Default quality for every format: a quality for PNG would only lower its compression.
-    QImageWriter writer(&file, codec);
-    if (!writer.write(image)) {
-        const QString reason = file.error() != QFileDevice::NoError ? file.errorString()
-                                                                    : writer.errorString();
-        file.cancelWriting();
-        return fail(tr("Writing the picture failed: %1").arg(reason));
-    }
-    if (!file.commit()) {
-        return fail(tr("Writing the picture failed: %1").arg(file.errorString()));
     }
     return path;
 }
@@ -315,7 +226,7 @@ void GlobalManager::changePixmapWithWaterMark(QPixmap& pixmap, const QString& te
     if (pixmap.isNull()) {
         return;
     }
-    paintWaterMark(&pixmap, pixmap.width(), pixmap.height(), text);
+    PictureWriter::paintWatermark(pixmap, text);
 }
 
 void GlobalManager::changeImageWithWaterMark(QImage& image, const QString& text)
@@ -323,7 +234,7 @@ void GlobalManager::changeImageWithWaterMark(QImage& image, const QString& text)
     if (image.isNull()) {
         return;
     }
-    paintWaterMark(&image, image.width(), image.height(), text);
+    PictureWriter::paintWatermark(image, text);
 }
 
 QStringList GlobalManager::selectOutPutFilesByTempList(const QStringList& tempPaths, QStringList* errors)

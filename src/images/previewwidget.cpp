@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "globalmanager.h"
 #include "imagecanvas.h"
+#include "imagecomposer.h"
 #include "imageexporter.h"
 #include "imageitem.h"
 #include "imageviewdialog.h"
@@ -17,110 +18,10 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QMutex>
-#include <QMutexLocker>
-#include <QRegion>
 #include <QVBoxLayout>
-#include <QVector>
-
-#include <cstdlib>
-#include <limits>
-
-namespace {
-// Canvas memory is recycled: a fresh buffer of a few hundred megabytes costs more
-// in page faults than the whole stitch. The last released canvas is kept as a
-// spare and reused when it fits, so recomposing (every property edit) writes
-// into memory that is already mapped. The pool is never destroyed, so a canvas
-// released during exit still finds it.
-struct CanvasBuffer {
-    uchar* data;
-    qsizetype size;
-};
-
-struct CanvasPool {
-    QMutex mutex;
-    CanvasBuffer* spare = nullptr;
-};
-
-CanvasPool* canvasPool()
-{
-    static auto* pool = new CanvasPool();
-    return pool;
-}
-
-void releaseCanvas(void* info)
-{
-    auto* buffer = static_cast<CanvasBuffer*>(info);
-    CanvasPool* pool = canvasPool();
-    CanvasBuffer* old = nullptr;
-    {
-        QMutexLocker locker(&pool->mutex);
-        old = pool->spare;
-        pool->spare = buffer;
-    }
-    if (old) {
-        std::free(old->data);
-        delete old;
-    }
-}
-
-QImage acquireCanvas(const QSize& size)
-{
-    const qsizetype bytesPerLine = qsizetype(size.width()) * 4;
-    const qsizetype bytes = bytesPerLine * size.height();
-    if (size.width() > (std::numeric_limits<int>::max() / 4) || bytes / bytesPerLine != size.height()) {
-        return QImage();
-    }
-    CanvasPool* pool = canvasPool();
-    CanvasBuffer* buffer = nullptr;
-    {
-        QMutexLocker locker(&pool->mutex);
-        // A spare much larger than needed is given back rather than kept alive.
-        if (pool->spare && pool->spare->size >= bytes && pool->spare->size <= 2 * bytes) {
-            buffer = pool->spare;
-            pool->spare = nullptr;
-        }
-    }
-    if (!buffer) {
-        {
-            QMutexLocker locker(&pool->mutex);
-            if (pool->spare) {
-                std::free(pool->spare->data);
-                delete pool->spare;
-                pool->spare = nullptr;
-            }
-        }
-        auto* data = static_cast<uchar*>(std::malloc(size_t(bytes)));
-        if (!data) {
-            return QImage();
-        }
-        buffer = new CanvasBuffer{data, bytes};
-    }
-    return QImage(buffer->data, size.width(), size.height(), bytesPerLine, QImage::Format_RGB32, releaseCanvas,
-                  buffer);
-}
-
-// One frame's visible part: `source` (already clipped to the frame) lands at `at`.
-struct Part {
-    int index;
-    QPoint at;
-    QRect source;
-};
-
-// Adds the part `source` of frame `index`, clipped to the frame first: where a
-// band reaches outside a smaller frame the white canvas stays visible.
-void addPart(QVector<Part>& parts, int index, const QPixmap& pixmap, const QPoint& at, const QRect& source)
-{
-    const QRect part = source.intersected(pixmap.rect());
-    if (!part.isEmpty()) {
-        parts.append({index, at + (part.topLeft() - source.topLeft()), part});
-    }
-}
-} // namespace
 
 PreviewWidget::PreviewWidget(QWidget* parent)
     : BaseWidget(parent)
@@ -386,91 +287,12 @@ SaveImageThread* PreviewWidget::saveImageThread() const
 QImage PreviewWidget::composeImages(const QList<QPixmap>& pixmaps, int layoutType, int xSpace, int ySpace,
                                     int column)
 {
-    if (pixmaps.isEmpty()) {
-        return QImage();
+    QList<QImage> images;
+    images.reserve(pixmaps.size());
+    for (const QPixmap& pixmap : pixmaps) {
+        images.append(pixmap.isNull() ? QImage() : pixmap.toImage());
     }
-    const int n = pixmaps.size();
-    const int c = column > 0 ? column : 1;
-    const int W = pixmaps.first().width();
-    const int H = pixmaps.first().height();
-    const int X = xSpace;
-    const int Y = ySpace;
-
-    QSize canvasSize;
-    int band = 0;
-    switch (layoutType) {
-    case Grid: {
-        const int xs = qMax(X, 0);
-        const int ys = qMax(Y, 0);
-        const int k = n < c ? n : c;
-        canvasSize = QSize(qMin(W * c, W * n) + (k - 1) * xs, ((n - 1) / c) * (H + ys) + H);
-        qDebug() << "getGroupPixmap Grid" << canvasSize.width() << canvasSize.height() << W << H << (k - 1) * xs;
-        break;
-    }
-    case Horizontal:
-        band = W + qMin(X, 0);
-        canvasSize = QSize((n - 1) * band + W + (n - 1) * qMax(X, 0), H);
-        qDebug() << "other image's width:" << band << "image total width" << canvasSize.width();
-        break;
-    default:
-        band = H + qMin(Y, 0);
-        canvasSize = QSize(W, (n - 1) * band + H + (n - 1) * qMax(Y, 0));
-        qDebug() << "other image's height:" << band << "image total height" << canvasSize.height();
-        break;
-    }
-    if (canvasSize.isEmpty()) {
-        return QImage();
-    }
-
-    QVector<Part> parts;
-    parts.reserve(n);
-    for (int i = 0; i < n; ++i) {
-        const QPixmap& pixmap = pixmaps.at(i);
-        if (pixmap.isNull()) {
-            continue;
-        }
-        if (layoutType == Grid) {
-            const int x = (i % c) * (X >= 1 ? W + X : W);
-            const int y = (i / c) * (Y >= 1 ? H + Y : H);
-            addPart(parts, i, pixmap, QPoint(x, y), pixmap.rect());
-        } else if (i == 0) {
-            addPart(parts, i, pixmap, QPoint(0, 0), pixmap.rect());
-        } else if (band > 0) {
-            const int w = pixmap.width();
-            const int h = pixmap.height();
-            if (layoutType == Horizontal) {
-                const int x = X >= 1 ? i * (W + X) : qAbs(qMin(X, 0)) + i * band;
-                addPart(parts, i, pixmap, QPoint(x, 0), QRect(w - band, 0, band, h));
-            } else {
-                const int y = Y >= 1 ? i * (H + Y) : qAbs(qMin(Y, 0)) + i * band;
-                addPart(parts, i, pixmap, QPoint(0, y), QRect(0, h - band, w, band));
-            }
-        }
-    }
-
-    // The canvas is opaque white, so RGB32 shows exactly what an alpha canvas
-    // would, takes frames as plain row copies and becomes a pixmap without conversion.
-    QImage canvas = acquireCanvas(canvasSize);
-    if (canvas.isNull()) {
-        qWarning() << "getGroupPixmap: canvas too large" << canvasSize;
-        return QImage();
-    }
-    // White goes only where no opaque frame will be drawn: each pixel is written once.
-    QRegion background(canvas.rect());
-    for (const Part& part : qAsConst(parts)) {
-        if (!pixmaps.at(part.index).hasAlphaChannel()) {
-            background -= QRect(part.at, part.source.size());
-        }
-    }
-    QPainter painter(&canvas);
-    for (const QRect& rect : background) {
-        painter.fillRect(rect, Qt::white);
-    }
-    for (const Part& part : qAsConst(parts)) {
-        painter.drawPixmap(part.at, pixmaps.at(part.index), part.source);
-    }
-    painter.end();
-    return canvas;
+    return ImageComposer::compose(images, layoutType, xSpace, ySpace, column);
 }
 
 QPixmap PreviewWidget::getGroupPixmap()
@@ -559,8 +381,8 @@ void PreviewWidget::exportButtonClickHandle()
     const int width = static_cast<int>(static_cast<float>(composite.width() * scale) / 100.0f);
     // Scale 100 keeps the composite as it is; no resampling pass.
     const QPixmap picture = width == composite.width() ? composite
-                            : width > 0               ? composite.scaledToWidth(width, Qt::FastTransformation)
-                                                      : QPixmap();
+                            : width > 0 ? QPixmap::fromImage(ImageComposer::scaledToWidth(composite.toImage(), width))
+                                        : QPixmap();
     if (picture.isNull()) {
         emit exportFinishedSignal({}, {tr("The scale is 0: there is no picture to export.")});
         return;

@@ -21,6 +21,8 @@ public:
 
     // The first caption of the store shown at this playback time, or none.
     static CaptionInfo* captionAtTime(double seconds);
+    // A caption's text as shown: override blocks removed, line breaks as newlines.
+    static QString plainText(const QString& text);
 
     void setCaption(CaptionInfo* info);
     CaptionInfo* caption() const { return m_caption; }
@@ -59,7 +61,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    static QString plainText(const QString& text);
     void placeEditor();
 
     CaptionInfo* m_caption = nullptr;

@@ -1,6 +1,7 @@
 #include "mpvwidget.h"
 
 #include "appconfig.h"
+#include "framegrabber.h"
 #include "globalmanager.h"
 #include "screenmanager.h"
 
@@ -493,7 +494,7 @@ void MpvWidget::seekToPositionForCapture(double seconds)
         qDebug() << "Error seekToPositionForCapture";
         return;
     }
-    const QByteArray text = QString(QStringLiteral("%1")).arg(seconds, 0, 'g', -1).toUtf8();
+    const QByteArray text = FrameGrabber::seekArgument(seconds);
     const char* args[] = {"seek", text.constData(), "absolute+exact", nullptr};
     // Completion is the reply with this id; the frame itself is ready at the
     // playback restart that follows it.
@@ -690,43 +691,13 @@ QPixmap MpvWidget::takeSnapshot(const QString& path)
         mpv_free_node_contents(&result);
         return pixmap;
     }
-    int w = 0;
-    int h = 0;
-    int stride = 0;
-    const mpv_byte_array* data = nullptr;
-    const mpv_node_list* map = result.u.list;
-    for (int i = 0; i < map->num; ++i) {
-        const char* key = map->keys[i];
-        const mpv_node& value = map->values[i];
-        if (std::strcmp(key, "w") == 0) {
-            w = static_cast<int>(value.u.int64);
-        } else if (std::strcmp(key, "h") == 0) {
-            h = static_cast<int>(value.u.int64);
-        } else if (std::strcmp(key, "stride") == 0) {
-            stride = static_cast<int>(value.u.int64);
-        } else if (std::strcmp(key, "data") == 0 && value.format == MPV_FORMAT_BYTE_ARRAY) {
-            data = value.u.ba;
-        }
-    }
-    if (!data || !data->data) {
-        qDebug() << "Cannot take snapshot:data == nullptr";
-        mpv_free_node_contents(&result);
-        return pixmap;
-    }
-    const int rowBytes = w * 4;
-    if (w <= 0 || h <= 0 || std::abs(stride) < rowBytes) {
-        qDebug() << "Cannot take snapshot: bad geometry" << w << h << stride;
-        mpv_free_node_contents(&result);
-        return pixmap;
-    }
-    // mpv delivers bgr0: the fourth byte is padding, not alpha. The rows are
-    // copied out (any stride sign) before mpv's buffer is freed.
-    QImage image(w, h, QImage::Format_RGB32);
-    const auto* first = static_cast<const uchar*>(data->data);
-    for (int y = 0; y < h; ++y) {
-        std::memcpy(image.scanLine(y), first + static_cast<qptrdiff>(y) * stride, static_cast<size_t>(rowBytes));
-    }
+    QByteArray problem;
+    const QImage image = FrameGrabber::imageFromScreenshot(result, &problem);
     mpv_free_node_contents(&result);
+    if (image.isNull()) {
+        qDebug().noquote().nospace() << "Cannot take snapshot:" << problem;
+        return pixmap;
+    }
     pixmap = QPixmap::fromImage(image);
     return pixmap;
 }

@@ -4,6 +4,7 @@
 #include "captioninfo.h"
 #include "captionmanager.h"
 #include "capturesource.h"
+#include "framegrabber.h"
 #include "globalmanager.h"
 #include "imageitem.h"
 #include "imageswidget.h"
@@ -52,7 +53,7 @@ CaptureController::CaptureController(CaptureSource* source, ImagesWidget* strip,
 
 double CaptureController::seekSeconds(const CaptionInfo* caption)
 {
-    return static_cast<double>(static_cast<float>(caption->startMs()) / 1000.0f);
+    return FrameGrabber::captureSeconds(caption->startMs());
 }
 
 void CaptureController::setState(State state)
