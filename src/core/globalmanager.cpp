@@ -12,7 +12,6 @@
 #include <QDebug>
 #include <QDesktopServices>
 #include <QFile>
-#include <QFontMetrics>
 #include <QTime>
 #include <QUrl>
 
@@ -98,16 +97,7 @@ QString GlobalManager::formatSecondToTime(double seconds)
 
 int GlobalManager::getFontSizeByTextAndWidth(const QString& text, int width)
 {
-    QFont font;
-    int size = 40;
-    font.setPointSize(size);
-    QFontMetrics metrics(font);
-    while (metrics.horizontalAdvance(text) > width && size >= 2) {
-        --size;
-        font.setPointSize(size);
-        metrics = QFontMetrics(font);
-    }
-    return qMax(size, 1);
+    return PictureWriter::fontSizeForWidth(text, width);
 }
 
 QString GlobalManager::readFileContent(const QString& path)

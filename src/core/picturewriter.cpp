@@ -1,7 +1,8 @@
 #include "picturewriter.h"
 
-#include "globalmanager.h"
 
+#include <QFont>
+#include <QFontMetrics>
 #include <QFontMetricsF>
 #include <QImageWriter>
 #include <QPainter>
@@ -35,7 +36,7 @@ WaterMark layoutWaterMark(int width, int height, const QString& text)
     mark.textWidth = metrics1.horizontalAdvance(text);
     mark.lineHeight = metrics1.height();
     mark.font2 = QFont(QStringLiteral("Microsoft YaHei"));
-    mark.font2.setPointSize(GlobalManager::getFontSizeByTextAndWidth(kTagline, static_cast<int>(mark.textWidth)));
+    mark.font2.setPointSize(PictureWriter::fontSizeForWidth(kTagline, static_cast<int>(mark.textWidth)));
     mark.taglineWidth = QFontMetricsF(mark.font2).horizontalAdvance(kTagline);
     mark.text = QPointF((width - mark.textWidth) * 0.5, (mark.lineHeight * 0.5 + height) * 0.5);
     mark.tagline = QPointF((width - mark.taglineWidth) * 0.5, mark.text.y() + mark.lineHeight / 2.5);
@@ -173,4 +174,18 @@ void PictureWriter::paintWatermark(QPixmap& pixmap, const QString& text)
     pixmap = QPixmap();
     paintWatermark(image, text);
     pixmap = QPixmap::fromImage(std::move(image));
+}
+
+int PictureWriter::fontSizeForWidth(const QString& text, int width)
+{
+    QFont font;
+    int size = 40;
+    font.setPointSize(size);
+    QFontMetrics metrics(font);
+    while (metrics.horizontalAdvance(text) > width && size >= 2) {
+        --size;
+        font.setPointSize(size);
+        metrics = QFontMetrics(font);
+    }
+    return qMax(size, 1);
 }

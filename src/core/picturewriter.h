@@ -31,6 +31,9 @@ public:
     // Stamps `text` and the tagline into the middle of the picture, in place.
     static void paintWatermark(QImage& image, const QString& text);
     static void paintWatermark(QPixmap& pixmap, const QString& text);
+    // The largest point size, from 40 down, at which text fits width in the
+    // default font (never below 1).
+    static int fontSizeForWidth(const QString& text, int width);
 };
 
 #endif // PICTUREWRITER_H
