@@ -85,10 +85,11 @@ private slots:
         emit m_window->captionWidget()->autoCaptionSignal(7);
         QVERIFY(m_window->loadingDialog()->isVisible());
         m_window->loadingDialog()->reject();
-        QTest::qWait(3000);
-        QVERIFY(TestSupport::hasEvent(events, AppConfig::STOP_AI_CAPTION));
-        QVERIFY(!TestSupport::hasEvent(events, AppConfig::TASK_ID));
-        QVERIFY(!m_window->messageDialog()->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(TestSupport::hasEvent(events, AppConfig::STOP_AI_CAPTION), 3000);
+        // Neither a result nor a failure follows (recognition of this clip takes less).
+        QVERIFY(!QTest::qWaitFor([&] {
+            return TestSupport::hasEvent(events, AppConfig::TASK_ID) || m_window->messageDialog()->isVisible();
+        }, 3000));
         QVERIFY(CaptionManager::instance()->getCaptions().isEmpty());
     }
 

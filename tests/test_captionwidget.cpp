@@ -39,8 +39,8 @@ private:
     static void scrollToBottom(CaptionWidget& widget)
     {
         QScrollBar* bar = widget.listWidget()->verticalScrollBar();
-        // Let the list lay out the rows added last, so the range is current.
-        QTest::qWait(20);
+        // Lay out the rows added last, so the range is current.
+        widget.listWidget()->doItemsLayout();
         const int before = bar->value();
         bar->setValue(bar->maximum());
         if (bar->value() == before) {

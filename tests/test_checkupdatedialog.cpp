@@ -42,7 +42,6 @@ private slots:
     void cleanupTestCase();
     void versionComparison_data();
     void versionComparison();
-    void dotAnimation();
     void sameVersionIsLatest();
     void newerVersionOffered();
     void savedCopyShownAtConstruction();
@@ -96,20 +95,6 @@ void TestCheckUpdateDialog::versionComparison()
     QFETCH(bool, isLatest);
     QCOMPARE(CheckUpdateDialog::isLatestVersion(running, latest), isLatest);
     QCOMPARE(CheckUpdateDialog::offersUpdate(versionFile(latest), running), !isLatest && !latest.isEmpty());
-}
-
-void TestCheckUpdateDialog::dotAnimation()
-{
-    CheckUpdateDialog dialog;
-    QCOMPARE(dialog.currentLayer(), CheckUpdateDialog::CheckingLayer);
-    QCOMPARE(dialog.checkingText(), QStringLiteral("Check for update"));
-    QStringList seen;
-    for (int i = 0; i < 5; ++i) {
-        dialog.updateTimer();
-        seen << dialog.checkingText();
-    }
-    QCOMPARE(seen, QStringList({"Check for update.", "Check for update..", "Check for update...",
-                                "Check for update", "Check for update."}));
 }
 
 void TestCheckUpdateDialog::sameVersionIsLatest()
@@ -172,8 +157,7 @@ void TestCheckUpdateDialog::menuCheckFailureExplained()
     QVERIFY(dialog.retryButton()->isVisible());
     // The animation has stopped: the explanation stays.
     const QString text = dialog.checkingText();
-    QTest::qWait(1200);
-    QCOMPARE(dialog.checkingText(), text);
+    QVERIFY(!QTest::qWaitFor([&] { return dialog.checkingText() != text; }, 1200));
 
     // Trying again against a working server reaches a result.
     GlobalManager::instance()->saveSettings(AppConfig::VERSION_FILE_URL, saved);

@@ -31,16 +31,6 @@ private slots:
         QCOMPARE(seenBySecond, QStringList{QStringLiteral("time_pos")});
     }
 
-    void unknownNamesAreHarmless()
-    {
-        GlobalManager* bus = GlobalManager::instance();
-        QSignalSpy spy(bus, &GlobalManager::globalEvent);
-        bus->emitEvent(QStringLiteral("no_such_event"), QVariant());
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0).at(0).toString(), QStringLiteral("no_such_event"));
-        QVERIFY(!spy.at(0).at(1).isValid());
-    }
-
     void payloadTypesSurvive()
     {
         GlobalManager* bus = GlobalManager::instance();

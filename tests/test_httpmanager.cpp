@@ -96,8 +96,7 @@ private slots:
         QCOMPARE(errors.first().at(0).toString(), AppConfig::KEY_TASK_ID);
         const QString message = errors.first().at(1).toJsonObject().value("message").toString();
         QVERIFY2(message.contains(expected, Qt::CaseInsensitive), qPrintable(message));
-        QTest::qWait(200);
-        QCOMPARE(errors.size(), 1);
+        QVERIFY(!errors.wait(200));
         QVERIFY(finished.isEmpty());
     }
 
@@ -107,14 +106,16 @@ private slots:
         QSignalSpy finished(HttpManager::instance(), &HttpManager::requestFinished);
         QSignalSpy errors(HttpManager::instance(), &HttpManager::requestError);
         // Cancel while uploading, and again while the result is awaited.
-        for (int delayMs : {0, 600}) {
+        for (bool awaitResult : {false, true}) {
             HttpManager::instance()->loadCaptions(m_speech, QStringLiteral("en-US"));
-            QTest::qWait(delayMs);
+            if (awaitResult) {
+                QTRY_VERIFY_WITH_TIMEOUT(HttpManager::instance()->isAwaitingResult(), 10000);
+            }
             QVERIFY(HttpManager::instance()->isUploading());
             HttpManager::instance()->stopUploadFile();
         }
-        QTest::qWait(4000);
-        QVERIFY(finished.isEmpty());
+        // A result would be in well within this time.
+        QVERIFY(!finished.wait(4000));
         QVERIFY(errors.isEmpty());
         QVERIFY(!HttpManager::instance()->isUploading());
     }

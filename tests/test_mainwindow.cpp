@@ -188,13 +188,6 @@ private slots:
         }
     }
 
-    void screenshotForPeople()
-    {
-        const QString dir = QStringLiteral(GLIMMER_BINARY_DIR "/screenshots");
-        QDir().mkpath(dir);
-        QVERIFY(m_window->grab().save(dir + QStringLiteral("/mainwindow.png")));
-    }
-
     void failuresReachTheUser()
     {
         // A subtitle file without captions says so.
@@ -222,12 +215,12 @@ private slots:
     {
         m_window->showCaptionWidget(false);
         m_window->resize(m_window->minimumWidth(), m_window->height());
-        QTest::qWait(50);
+        TestSupport::settleLayouts();
         const int width = m_window->width();
         m_window->showCaptionWidget(true);
-        QTest::qWait(50);
+        TestSupport::settleLayouts();
         m_window->showCaptionWidget(false);
-        QTest::qWait(50);
+        TestSupport::settleLayouts();
         QCOMPARE(m_window->width(), width);
     }
 };

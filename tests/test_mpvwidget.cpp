@@ -4,7 +4,6 @@
 #include "mpvwidget.h"
 #include "testsupport.h"
 
-#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -56,12 +55,7 @@ public:
     {
         restarts.clear();
         widget->loadFile(path);
-        QElapsedTimer clock;
-        clock.start();
-        while (!restarts.contains(MpvWidget::RestartAfterLoad) && clock.elapsed() < 20000) {
-            QTest::qWait(10);
-        }
-        return restarts.contains(MpvWidget::RestartAfterLoad);
+        return QTest::qWaitFor([this] { return restarts.contains(MpvWidget::RestartAfterLoad); }, 20000);
     }
 
     // Exact seek for capture; returns once its frame is ready.
@@ -70,16 +64,10 @@ public:
         const int before = replyCount(MpvWidget::RequestCaptureSeek);
         const int restartsBefore = restarts.count(MpvWidget::RestartAfterCaptureSeek);
         widget->seekToPositionForCapture(seconds);
-        QElapsedTimer clock;
-        clock.start();
-        while (clock.elapsed() < 10000) {
-            if (replyCount(MpvWidget::RequestCaptureSeek) > before
-                && restarts.count(MpvWidget::RestartAfterCaptureSeek) > restartsBefore) {
-                return true;
-            }
-            QTest::qWait(5);
-        }
-        return false;
+        return QTest::qWaitFor([&] {
+            return replyCount(MpvWidget::RequestCaptureSeek) > before
+                && restarts.count(MpvWidget::RestartAfterCaptureSeek) > restartsBefore;
+        }, 10000);
     }
 
     std::unique_ptr<MpvWidget> widget;
@@ -150,12 +138,22 @@ void TestMpvWidget::playPauseStop()
     QVERIFY(player.load(m_video));
     QTRY_VERIFY_WITH_TIMEOUT(player.widget->getCurrentSecond() > 0.3, 5000);
 
+    QSignalSpy polled(player.widget.get(), &MpvWidget::getMpvProperty);
     player.widget->pause();
     QCOMPARE(player.widget->getPlayStatus(), MpvWidget::Pause);
-    QTest::qWait(100);
+    // Settled once two polls in a row report the same position; then it stays.
+    QList<double> positions;
+    QVERIFY(QTest::qWaitFor([&] {
+        positions.clear();
+        for (const auto& args : polled) {
+            if (args.at(0).toString() == AppConfig::MPV_TIME_POS) {
+                positions << args.at(1).toDouble();
+            }
+        }
+        return positions.size() >= 2 && positions.last() == positions.at(positions.size() - 2);
+    }, 3000));
     const double pausedAt = player.widget->getCurrentSecond();
-    QTest::qWait(400);
-    QCOMPARE(player.widget->getCurrentSecond(), pausedAt);
+    QVERIFY(!QTest::qWaitFor([&] { return player.widget->getCurrentSecond() != pausedAt; }, 400));
 
     player.widget->play();
     QCOMPARE(player.widget->getPlayStatus(), MpvWidget::Play);

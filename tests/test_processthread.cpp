@@ -132,7 +132,8 @@ private slots:
         g->stopConvert();
         QVERIFY(g->isStopConvert());
         QVERIFY(g->audioThread()->wait(10000));
-        QTest::qWait(300);
+        // Whatever the finished thread queued is delivered now.
+        QCoreApplication::processEvents();
         QVERIFY(!events.contains(AppConfig::VIDEO_TO_AUDIO_STOP));
     }
 };

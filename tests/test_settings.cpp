@@ -26,12 +26,6 @@ private slots:
             QCOMPARE(args.at(0).toString(), AppConfig::SETTING_CHANGE);
             QCOMPARE(args.at(1).toString(), AppConfig::PLAYER_VOLUME);
         }
-        // A reader's own default applies only when the key is absent.
-        QCOMPARE(g->readSettings(AppConfig::PLAYER_VOLUME, 100).toInt(), 35);
-        QCOMPARE(g->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_JPG).toString(),
-                 AppConfig::FORMAT_JPG);
-        QCOMPARE(g->readSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_PNG).toString(),
-                 AppConfig::FORMAT_PNG);
     }
 
     void persistentStoreSurvivesTheRun()

@@ -285,8 +285,7 @@ private:
         QAction* action = languageAction(m_window, type);
         QVERIFY(action);
         action->trigger();
-        // Layouts settle on the next passes of the event loop.
-        QTest::qWait(150);
+        TestSupport::settleLayouts();
     }
 
     void checkLayout(const QString& what)

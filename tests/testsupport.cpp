@@ -228,4 +228,13 @@ bool makeSpeechMp3(const QStringList& wavs, const QString& output)
     return ffmpeg(args) == 0;
 }
 
+void settleLayouts()
+{
+    // A layout pass can post further requests (nested layouts, resized parents).
+    for (int pass = 0; pass < 4; ++pass) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        QCoreApplication::processEvents();
+    }
+}
+
 } // namespace TestSupport

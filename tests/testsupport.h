@@ -60,6 +60,9 @@ QRect changedBox(const QImage& a, const QImage& b, int threshold = 24);
 QList<QVariant> eventValues(const QSignalSpy& spy, const QString& name);
 bool hasEvent(const QSignalSpy& spy, const QString& name);
 
+// Runs the layout requests (and what they post in turn) that are waiting.
+void settleLayouts();
+
 // A loopback port on which nothing listens.
 quint16 freePort();
 

@@ -49,6 +49,11 @@ QString HttpManager::keyForUrl(const QString& url)
     return path.section(QLatin1Char('/'), -1, -1, QString::SectionSkipEmpty);
 }
 
+bool HttpManager::isAwaitingResult() const
+{
+    return m_queryReply && !m_taskId.isEmpty();
+}
+
 bool HttpManager::isUploading() const
 {
     return m_waitingForService || (m_uploadReply && m_uploadReply->isRunning())

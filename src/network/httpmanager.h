@@ -30,6 +30,8 @@ public:
     // Cancels the recognition in flight: no signal follows.
     void stopUploadFile();
     bool isUploading() const;
+    // The upload is done and the service is asked for the result.
+    bool isAwaitingResult() const;
 
     // The "message" of a JSON error body, or the fallback.
     static QString replyMessage(const QByteArray& body, const QString& fallback);
