@@ -1,4 +1,4 @@
-// The player panel with a real libmpv surface and media made by ffmpeg.
+// The player panel and its libmpv surface, against real libmpv and media made by ffmpeg.
 #include "appconfig.h"
 #include "capturecontroller.h"
 #include "globalmanager.h"
@@ -31,8 +31,28 @@ public:
         mpv()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
         widget->resize(900, 640);
         widget->show();
-        QObject::connect(mpv(), &MpvWidget::playbackRestarted, widget.get(),
-                         [this](MpvWidget::RestartKind kind) { restarts.append(kind); });
+        QObject::connect(mpv(), &MpvWidget::playbackRestarted, widget.get(), [this](MpvWidget::RestartKind kind) {
+            restarts.append(kind);
+            order.append(QStringLiteral("restart%1").arg(int(kind)));
+        });
+        QObject::connect(mpv(), &MpvWidget::mpvEvents, widget.get(), [this](mpv_event* event) {
+            if (event->event_id == MPV_EVENT_COMMAND_REPLY || event->event_id == MPV_EVENT_SET_PROPERTY_REPLY) {
+                replies.append({event->reply_userdata, event->error});
+                order.append(QStringLiteral("reply%1").arg(event->reply_userdata));
+            }
+        });
+    }
+
+    // Replies of libmpv to one request, oldest first: their error codes.
+    QList<int> repliesTo(quint64 id) const
+    {
+        QList<int> errors;
+        for (const auto& reply : replies) {
+            if (reply.first == id) {
+                errors << reply.second;
+            }
+        }
+        return errors;
     }
 
     MpvWidget* mpv() const { return widget->getMpvWidget(); }
@@ -64,6 +84,8 @@ public:
     std::unique_ptr<VideoPlayWidget> widget;
     CaptureController* capture;
     QList<MpvWidget::RestartKind> restarts;
+    QList<QPair<quint64, int>> replies;
+    QStringList order;
 };
 
 
@@ -87,7 +109,7 @@ private slots:
     void subtitleAddAndRemove();
     void dropAcceptsOnlyOneFile();
     void badFilesReturnToLogo();
-    void video4k();
+    void unusualVideos();
 
 private:
     QString m_dir;
@@ -124,6 +146,11 @@ void TestVideoPlayWidget::startState()
     QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
     QCOMPARE(clicked.count(), 2);
     QCOMPARE(clicked.at(1).at(0).toInt(), 1);
+
+    QSignalSpy errors(panel.mpv(), &MpvWidget::error);
+    QVERIFY(panel.mpv()->takeSnapshot(QStringLiteral("/tmp/unused.jpg")).isNull());
+    QCOMPARE(errors.count(), 1);
+    QCOMPARE(errors.at(0).at(0).toString(), QStringLiteral("Cannot take snapshot"));
 }
 
 void TestVideoPlayWidget::mutedAtStart()
@@ -144,6 +171,12 @@ void TestVideoPlayWidget::mutedAtStart()
 
     panel.widget->soundSlider()->setValue(65);
     QCOMPARE(GlobalManager::instance()->readSettings(AppConfig::PLAYER_VOLUME).toInt(), 65);
+    panel.mpv()->setPlaySpeed(2.0);
+    // libmpv answers each value and accepts it (0 = no error).
+    for (quint64 request : {MpvWidget::RequestMute, MpvWidget::RequestVolume, MpvWidget::RequestSpeed}) {
+        QTRY_VERIFY_WITH_TIMEOUT(!panel.repliesTo(request).isEmpty(), 2000);
+        QCOMPARE(panel.repliesTo(request).count(0), panel.repliesTo(request).size());
+    }
 }
 
 void TestVideoPlayWidget::openFileShowsVideoAndFigures()
@@ -155,7 +188,18 @@ void TestVideoPlayWidget::openFileShowsVideoAndFigures()
     QVERIFY(panel.widget->isLogoShown());
 
     QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
+    QSignalSpy polled(panel.mpv(), &MpvWidget::getMpvProperty);
     QVERIFY(panel.open(m_video));
+    QCOMPARE(panel.mpv()->getFrameInSecond(), 25);
+    QCOMPARE(panel.mpv()->pollInterval(), 37);
+    QCOMPARE(panel.mpv()->getTotalFrame(), 250);
+    QVERIFY(qAbs(panel.mpv()->getTotalSeconds() - 10.0) < 0.05);
+    QCOMPARE(panel.mpv()->getMpvPlayerSize(), qMakePair(1280, 720));
+    QCOMPARE(panel.mpv()->getFilePath(), m_video);
+    // The poll reports duration first, then the position, on every tick.
+    QTRY_VERIFY_WITH_TIMEOUT(polled.count() >= 4, 3000);
+    QCOMPARE(polled.at(0).at(0).toString(), AppConfig::MPV_DURATION);
+    QCOMPARE(polled.at(1).at(0).toString(), AppConfig::MPV_TIME_POS);
     QVERIFY(!panel.widget->isLogoShown());
     QVERIFY(panel.mpv()->isVisible());
     QVERIFY(panel.widget->isLoadFile());
@@ -220,6 +264,11 @@ void TestVideoPlayWidget::transportButtons()
     QTRY_VERIFY_WITH_TIMEOUT(panel.mpv()->getCurrentFrame() > 30, 5000);
     panel.click(VideoPlayWidget::ButtonPlay);
     QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Pause);
+    // Settled once the position stops moving; then it stays.
+    double pausedAt = -1;
+    QVERIFY(QTest::qWaitFor([&] { return std::exchange(pausedAt, panel.widget->getCurrentTime()) == pausedAt; },
+                            3000));
+    QVERIFY(!QTest::qWaitFor([&] { return panel.widget->getCurrentTime() != pausedAt; }, 400));
 
     panel.click(VideoPlayWidget::ButtonStop);
     QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
@@ -227,6 +276,12 @@ void TestVideoPlayWidget::transportButtons()
     QVERIFY(!panel.widget->isLoadFile());
     panel.click(VideoPlayWidget::ButtonNextFrame);
     panel.click(VideoPlayWidget::ButtonPreviousFrame);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
+    QVERIFY(panel.mpv()->getFilePath().isEmpty());
+    // play() after stop has nothing left to reload: mpv refuses the empty name.
+    QSignalSpy failed(panel.mpv(), &MpvWidget::loadFailed);
+    panel.mpv()->play();
+    QVERIFY(failed.wait(5000));
     QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
 
     // The panel is usable again after stop.
@@ -290,10 +345,28 @@ void TestVideoPlayWidget::captureSeekRepliesFollowCaptureType()
     QSignalSpy events(panel.widget.get(), &VideoPlayWidget::captureEventSignal);
     QSignalSpy select(panel.widget.get(), &VideoPlayWidget::captureSelectSignal);
 
-    QVERIFY(panel.seekForCapture(1.5));
+    panel.order.clear();
+    QVERIFY(panel.seekForCapture(3.5));
     QCOMPARE(events.count(), 1);
     QCOMPARE(events.at(0).at(0).toInt(), 16);
     QCOMPARE(select.count(), 0);
+    // The reply comes first; the frame is ready at the restart after it, on the
+    // first frame at or after the target.
+    QVERIFY(panel.order.indexOf(QStringLiteral("reply16")) >= 0);
+    QVERIFY(panel.order.indexOf(QStringLiteral("restart2")) > panel.order.indexOf(QStringLiteral("reply16")));
+    QVERIFY(qAbs(panel.mpv()->getCurrentSecond() - 3.52) < 0.001);
+    QCOMPARE(panel.mpv()->getCurrentFrame(), 88);
+
+    // An ordinary seek is answered by 6 and its restart is not taken for a capture's.
+    panel.restarts.clear();
+    panel.mpv()->seekToPosition(7);
+    QVERIFY(panel.waitFor(MpvWidget::RestartAfterSeek));
+    QVERIFY(!panel.restarts.contains(MpvWidget::RestartAfterCaptureSeek));
+    QTRY_COMPARE_WITH_TIMEOUT(panel.repliesTo(MpvWidget::RequestTimePos).size(), 1, 2000);
+    QCOMPARE(events.count(), 1);
+    panel.mpv()->seekToPercent(50);
+    QTRY_COMPARE_WITH_TIMEOUT(panel.repliesTo(MpvWidget::RequestPercentPos).size(), 1, 2000);
+    QTRY_VERIFY_WITH_TIMEOUT(qAbs(panel.mpv()->getCurrentSecond() - 5.0) < 0.1, 3000);
 
     panel.widget->changeCaptureType(1);
     QVERIFY(panel.seekForCapture(2.5));
@@ -306,12 +379,21 @@ void TestVideoPlayWidget::subtitleAddAndRemove()
 {
     const QString ass = m_dir + QStringLiteral("/panel.ass");
     QVERIFY(TestSupport::writeFile(ass, QByteArrayLiteral(
-        "[Script Info]\nScriptType: v4.00+\n\n[Events]\n"
-        "Format: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n"
-        "Dialogue: 0,0:00:00.00,0:00:09.00,Default,,0,0,0,,panel caption\n")));
+        "[Script Info]\nScriptType: v4.00+\n\n[V4+ Styles]\n"
+        "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, Bold, "
+        "Italic, Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, Alignment, "
+        "MarginL, MarginR, MarginV, Encoding\n"
+        "Style: Default,Arial,24,&H00FFFFFF,&H000000FF,&H00000000,&H00000000,0,0,0,0,100,100,0,0,1,1,1,2,10,10,10,1\n"
+        "\n[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n"
+        "Dialogue: 0,0:00:00.00,0:00:09.00,Default,,0,0,0,,{\\pos(192,268)}GLIMMER CAPTION\n")));
     Panel panel;
     QVERIFY(panel.exposed());
     QVERIFY(panel.open(m_video));
+    panel.widget->pause();
+    QVERIFY(panel.seekForCapture(4.0));
+    const QImage plain = panel.mpv()->takeSnapshot().toImage();
+    // Opaque pixels: mpv's fourth byte is padding, not alpha.
+    QVERIFY(!plain.hasAlphaChannel() || plain.pixelColor(640, 360).alpha() == 255);
     QSignalSpy events(panel.widget.get(), &VideoPlayWidget::captureEventSignal);
 
     panel.widget->loadSubTitleFile(QString());
@@ -320,6 +402,13 @@ void TestVideoPlayWidget::subtitleAddAndRemove()
     panel.widget->loadSubTitleFile(ass);
     QTRY_COMPARE_WITH_TIMEOUT(events.count(), 1, 3000);
     QCOMPARE(events.at(0).at(0).toInt(), 14);
+    // Burnt in at the bottom centre (anchor 192,268 of 384x288, i.e. 640,670 in
+    // 1280x720): nothing else of the frame changed.
+    const QRect changed = TestSupport::changedBox(plain, panel.mpv()->takeSnapshot().toImage());
+    QVERIFY2(QRect(200, 560, 880, 130).contains(changed) && changed.width() > 200,
+             qPrintable(QStringLiteral("changed %1,%2 %3x%4")
+                            .arg(changed.x()).arg(changed.y()).arg(changed.width()).arg(changed.height())));
+    QVERIFY(qAbs(changed.center().x() - 640) < 40);
     panel.widget->loadSubTitleFile(ass);
     QTRY_COMPARE_WITH_TIMEOUT(events.count(), 2, 3000);
     QCOMPARE(panel.mpv()->externalSubtitleTracks().size(), 2);
@@ -329,6 +418,7 @@ void TestVideoPlayWidget::subtitleAddAndRemove()
     QCOMPARE(events.at(2).at(0).toInt(), 15);
     QCOMPARE(events.at(3).at(0).toInt(), 15);
     QVERIFY(panel.mpv()->externalSubtitleTracks().isEmpty());
+    QVERIFY(TestSupport::meanDifference(panel.mpv()->takeSnapshot().toImage(), plain) < 0.01);
 }
 
 void TestVideoPlayWidget::dropAcceptsOnlyOneFile()
@@ -406,8 +496,21 @@ void TestVideoPlayWidget::badFilesReturnToLogo()
     QTRY_COMPARE_WITH_TIMEOUT(panel.widget->totalTimeText(), QStringLiteral("00:00:10:25"), 3000);
 }
 
-void TestVideoPlayWidget::video4k()
+void TestVideoPlayWidget::unusualVideos()
 {
+    // No sound track, 30 frames a second.
+    const QString silent = m_dir + QStringLiteral("/silent.mp4");
+    QVERIFY(TestSupport::makeVideo(silent, 3.0, 640, 360, 30, false));
+    {
+        Panel panel;
+        QVERIFY(panel.exposed());
+        QVERIFY(panel.open(silent));
+        QCOMPARE(panel.mpv()->getFrameInSecond(), 30);
+        QCOMPARE(panel.mpv()->pollInterval(), 1000 / 32);
+        QTRY_VERIFY_WITH_TIMEOUT(panel.mpv()->getCurrentSecond() > 0.2, 5000);
+        QCOMPARE(panel.mpv()->takeSnapshot().size(), QSize(640, 360));
+    }
+
     const QString uhd = m_dir + QStringLiteral("/uhd.mp4");
     QVERIFY(TestSupport::makeVideo(uhd, 1.0, 3840, 2160, 25, true));
 
