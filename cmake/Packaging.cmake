@@ -20,7 +20,7 @@ set(GLIMMER_MAN_NAME_glimmer "turn the moments of a video into still pictures wi
 set(GLIMMER_MAN_NAME_glimmer-speechd "local speech-recognition service for Glimmer")
 if(TARGET glimmer-cli)
     list(APPEND GLIMMER_PROGRAMS glimmer-cli)
-    set(GLIMMER_MAN_NAME_glimmer-cli "Glimmer from the command line")
+    set(GLIMMER_MAN_NAME_glimmer-cli "stitch the captioned frames of a video into one picture, without a window")
 endif()
 
 find_program(GLIMMER_HELP2MAN help2man)
