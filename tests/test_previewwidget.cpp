@@ -8,6 +8,7 @@
 #include "previewwidget.h"
 #include "propertyitem.h"
 #include "savefilebar.h"
+#include "settings.h"
 #include "testsupport.h"
 
 #include <QApplication>
@@ -130,6 +131,9 @@ void TestPreviewWidget::outputBarFollowsSettings()
     PreviewWidget preview;
     SaveFileBar* bar = preview.saveFileBar();
     QCOMPARE(bar->fileExtension(), AppConfig::FORMAT_JPG);
+    // On a fresh profile the export worker reads the format the bar shows.
+    QCOMPARE(Settings::instance()->value(AppConfig::FILE_EXTENSION, Settings::ExportWorker).toString(),
+             AppConfig::FORMAT_JPG);
     manager->saveSettings(AppConfig::FILE_SAVE_PATH, QStringLiteral("/some/where"));
     manager->saveSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_WEBP);
     QCOMPARE(bar->outputDir(), QStringLiteral("/some/where"));
