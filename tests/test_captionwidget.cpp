@@ -184,6 +184,30 @@ private slots:
         QCOMPARE(automatic.count(), 1);
         // English (US) is the default recognition language.
         QCOMPARE(automatic.at(0).at(0).toInt(), 7);
+
+        // A created caption shows at once: row, count and capture button.
+        auto* capture = widget.findChild<QPushButton*>(QStringLiteral("capture"));
+        QVERIFY(!capture->isEnabled());
+        QVERIFY(CaptionManager::instance()->insertCaptionInfo(1.0, 3000));
+        QVERIFY(widget.listWidget()->isVisible());
+        QCOMPARE(title(widget), QStringLiteral("Captions (1)"));
+        QCOMPARE(widget.items().size(), 1);
+        QVERIFY(capture->isEnabled());
+    }
+
+    void captionAddedAtTheEndIsInView()
+    {
+        makeCaptions(100);
+        CaptionWidget widget;
+        widget.resize(300, 400);
+        widget.show();
+        CaptionInfo* added = CaptionManager::instance()->insertCaptionInfo(500.0, 3000);
+        QVERIFY(added);
+        QCOMPARE(title(widget), QStringLiteral("Captions (101)"));
+        QCOMPARE(widget.items().size(), 101);
+        QCOMPARE(widget.items().last()->getCaptionInfo(), added);
+        QTRY_VERIFY(widget.listWidget()->viewport()->rect().intersects(
+            widget.listWidget()->visualItemRect(widget.listWidget()->item(100))));
     }
 };
 

@@ -512,12 +512,11 @@ CaptionInfo* VideoPlayWidget::insertCaptionAtCurrentTime()
     pause();
     CaptionInfo* info = CaptionManager::instance()->insertCaptionInfo(currentTime, kInsertDurationMs);
     if (!info) {
-        // The position lies inside a caption already: edit that one instead.
+        // The position lies inside a caption already: say so rather than
+        // open that one for typing, which would overwrite it.
         qDebug() << "insert caption: none at" << currentTime;
         refreshCaption(currentTime);
-        if (m_overlay->caption()) {
-            m_overlay->startEditing();
-        }
+        emit captionInsertRefused();
         return nullptr;
     }
     info->text = tr("New caption");

@@ -33,8 +33,27 @@ CaptionWidget::CaptionWidget(QWidget* parent)
         m_list->clear();
         m_items.clear();
     });
+    // A caption created at the player's position shows at once, in view.
+    connect(CaptionManager::instance(), &CaptionManager::captionInserted, this, [this](CaptionInfo* info) {
+        createCaption(QByteArray());
+        scrollToCaption(info);
+    });
     retranslate();
     createCaption(QByteArray());
+}
+
+void CaptionWidget::scrollToCaption(CaptionInfo* info)
+{
+    const int index = getCaptionInfoBySearch().indexOf(info);
+    if (index < 0) {
+        return;
+    }
+    while (m_list->count() <= index && m_list->count() < getCaptionInfoBySearch().size()) {
+        const int from = m_list->count();
+        loadItems(from, from + PAGE_SIZE - 1);
+        m_page = (m_list->count() - 1) / PAGE_SIZE;
+    }
+    m_list->scrollToItem(m_list->item(index));
 }
 
 void CaptionWidget::buildUi()

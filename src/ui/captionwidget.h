@@ -37,6 +37,8 @@ public:
     void changeCaptureString(const QString& text);
     // Refreshes the row of a caption edited elsewhere (overlay, toolbar).
     void updateCaptionItem(CaptionInfo* info);
+    // Makes sure the caption's row exists and is in view.
+    void scrollToCaption(CaptionInfo* info);
     // Key of the language chosen for automatic captions.
     int currentLanguageKey() const;
 
