@@ -91,6 +91,14 @@ private slots:
         QVERIFY(widget.items().isEmpty());
         widget.searchEdit()->clear();
         QCOMPARE(widget.items().size(), 36);
+
+        // New captions are not filtered by the search for the old ones.
+        widget.searchEdit()->setText(QStringLiteral("needle"));
+        makeCaptions(5);
+        widget.createCaption(QByteArray());
+        QVERIFY(widget.searchEdit()->text().isEmpty());
+        QCOMPARE(title(widget), QStringLiteral("Captions (5)"));
+        QCOMPARE(widget.items().size(), 5);
     }
 
     void playingRowFollowsTheTime()

@@ -32,6 +32,9 @@ CaptionWidget::CaptionWidget(QWidget* parent)
         m_playingItem = nullptr;
         m_list->clear();
         m_items.clear();
+        // A search for the old captions would hide the new ones.
+        const QSignalBlocker blocker(m_search);
+        m_search->clear();
     });
     // A caption created at the player's position shows at once, in view.
     connect(CaptionManager::instance(), &CaptionManager::captionInserted, this, [this](CaptionInfo* info) {
