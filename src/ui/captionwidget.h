@@ -67,11 +67,15 @@ public slots:
     void scrollValueChanged(int value);
     void captionListItemClicked(QListWidgetItem* item);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void buildUi();
     void retranslate();
     void showEmptyState(bool empty);
     void fillLanguageBox();
+    void fitRow(QListWidgetItem* row);
 
     QLabel* m_logo = nullptr;
     QLabel* m_title = nullptr;
