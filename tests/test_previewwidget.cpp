@@ -114,6 +114,8 @@ void TestPreviewWidget::sizeLabelZoomAndScaleFields()
 
     // Typing a width sets the scale and the height in proportion.
     QLineEdit* width = preview.propertyItem(PropertyItem::Width)->lineEdit();
+    // Six digits fit beside the padding (6 px a side), the frame and the text margins.
+    QVERIFY(width->width() >= width->fontMetrics().horizontalAdvance(QStringLiteral("999999")) + 2 * 6 + 2 + 4);
     width->selectAll();
     QTest::keyClicks(width, QStringLiteral("250"));
     QCOMPARE(preview.propertyItem(PropertyItem::Scale)->getText(), QStringLiteral("25"));
