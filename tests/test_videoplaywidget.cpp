@@ -411,6 +411,15 @@ void TestVideoPlayWidget::badFilesReturnToLogo()
         QVERIFY(panel.mpv()->getFilePath().isEmpty());
         QVERIFY(panel.mpv()->takeSnapshot().isNull());
     }
+    // Sound alone is refused with its reason, and no load is announced.
+    const QString sound = m_dir + QStringLiteral("/talk.m4a");
+    QCOMPARE(TestSupport::ffmpeg({"-f", "lavfi", "-i", "sine=f=300:d=2", "-c:a", "aac", sound}), 0);
+    QSignalSpy refused(panel.mpv(), &MpvWidget::loadFailed);
+    QVERIFY(panel.widget->openFile(sound));
+    QVERIFY(refused.wait(10000));
+    QVERIFY(refused.at(0).at(1).toString().contains(QStringLiteral("no video")));
+    QVERIFY(panel.widget->isLogoShown());
+
     // A missing file handed straight to the player ends the same way.
     QSignalSpy failedAgain(panel.mpv(), &MpvWidget::loadFailed);
     panel.widget->loadFileByFileName(m_dir + QStringLiteral("/gone.mp4"));
