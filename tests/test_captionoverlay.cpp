@@ -324,11 +324,13 @@ void TestCaptionOverlay::panelAddsCaptionAtCurrentTime()
     QCOMPARE(panel.getCaptionOverlay()->caption(), one);
     QCOMPARE(panel.getCaptionStyleBar()->caption(), one);
 
-    // Inside a caption nothing is added; that caption opens for editing.
+    // Inside a caption nothing is added, the panel says so, and the caption
+    // there is not opened for typing over.
     QSignalSpy edits(&panel, &VideoPlayWidget::captionEditSignal);
+    QSignalSpy refused(&panel, &VideoPlayWidget::captionInsertRefused);
     QCOMPARE(panel.insertCaptionAtCurrentTime(), nullptr);
-    QVERIFY(panel.getCaptionOverlay()->isEditing());
-    panel.getCaptionOverlay()->finishEditing(false);
+    QCOMPARE(refused.count(), 1);
+    QVERIFY(!panel.getCaptionOverlay()->isEditing());
     QCOMPARE(edits.count(), 0);
 
     panel.getMpvWidget()->seekToPositionForCapture(4.0);

@@ -74,6 +74,53 @@ private slots:
         QCOMPARE(widget.items().at(57)->getCaptionInfo(), CaptionManager::instance()->getCaptions().at(57));
     }
 
+    void pagesLoadBeforeTheEnd()
+    {
+        makeCaptions(100);
+        CaptionWidget widget;
+        widget.resize(300, 400);
+        widget.show();
+        QScrollBar* bar = widget.listWidget()->verticalScrollBar();
+        QTRY_VERIFY(bar->maximum() > 0);
+        // Half a screen above the bottom is near enough for the next page.
+        bar->setValue(bar->maximum() - bar->pageStep() / 2);
+        QCOMPARE(widget.items().size(), 72);
+    }
+
+    void rowsReadAsOnScreenAndWrap()
+    {
+        const QString raw = QStringLiteral("{\\i1}Élan{\\i0}\\Nvital\\hnow");
+        const QString longText = QStringLiteral("a caption long enough to need several lines in a narrow list ").repeated(3);
+        CaptionManager::instance()->createCaptions(
+            TestSupport::utterances({{0, 1000, raw}, {2000, 3000, QStringLiteral("short")}, {4000, 5000, longText}}),
+            false);
+        CaptionWidget widget;
+        widget.resize(300, 500);
+        widget.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&widget));
+        QCOMPARE(CaptionManager::instance()->getCaptions().first()->text, raw);
+        CaptionItem* first = widget.items().first();
+        auto* label = first->labelWidget()->findChild<QLabel*>(QStringLiteral("show_text"));
+        QCOMPARE(label->text(), QStringLiteral("Élan\nvital\u00a0now"));
+        // Editing edits the file's own text.
+        first->changeToEdit(true);
+        QCOMPARE(first->labelWidget()->editor()->text(), raw);
+        first->changeToEdit(false);
+        QCOMPARE(CaptionManager::instance()->getCaptions().first()->text, raw);
+
+        // Rows are as wide as the list, and a long text wraps into a taller row.
+        QListWidget* list = widget.listWidget();
+        const int width = list->viewport()->width();
+        for (int i = 0; i < list->count(); ++i) {
+            QCOMPARE(list->item(i)->sizeHint().width(), width);
+            QVERIFY(widget.items().at(i)->height() >= widget.items().at(i)->minimumSizeHint().height());
+        }
+        QVERIFY(list->item(2)->sizeHint().height() > list->item(1)->sizeHint().height() + label->fontMetrics().height());
+        QVERIFY(list->item(0)->sizeHint().height() > list->item(1)->sizeHint().height());
+        widget.resize(500, 500);
+        QTRY_COMPARE(list->item(0)->sizeHint().width(), list->viewport()->width());
+    }
+
     void searchIsCaseSensitiveAndCounts()
     {
         makeCaptions(100);
@@ -91,6 +138,14 @@ private slots:
         QVERIFY(widget.items().isEmpty());
         widget.searchEdit()->clear();
         QCOMPARE(widget.items().size(), 36);
+
+        // New captions are not filtered by the search for the old ones.
+        widget.searchEdit()->setText(QStringLiteral("needle"));
+        makeCaptions(5);
+        widget.createCaption(QByteArray());
+        QVERIFY(widget.searchEdit()->text().isEmpty());
+        QCOMPARE(title(widget), QStringLiteral("Captions (5)"));
+        QCOMPARE(widget.items().size(), 5);
     }
 
     void playingRowFollowsTheTime()
@@ -184,6 +239,30 @@ private slots:
         QCOMPARE(automatic.count(), 1);
         // English (US) is the default recognition language.
         QCOMPARE(automatic.at(0).at(0).toInt(), 7);
+
+        // A created caption shows at once: row, count and capture button.
+        auto* capture = widget.findChild<QPushButton*>(QStringLiteral("capture"));
+        QVERIFY(!capture->isEnabled());
+        QVERIFY(CaptionManager::instance()->insertCaptionInfo(1.0, 3000));
+        QVERIFY(widget.listWidget()->isVisible());
+        QCOMPARE(title(widget), QStringLiteral("Captions (1)"));
+        QCOMPARE(widget.items().size(), 1);
+        QVERIFY(capture->isEnabled());
+    }
+
+    void captionAddedAtTheEndIsInView()
+    {
+        makeCaptions(100);
+        CaptionWidget widget;
+        widget.resize(300, 400);
+        widget.show();
+        CaptionInfo* added = CaptionManager::instance()->insertCaptionInfo(500.0, 3000);
+        QVERIFY(added);
+        QCOMPARE(title(widget), QStringLiteral("Captions (101)"));
+        QCOMPARE(widget.items().size(), 101);
+        QCOMPARE(widget.items().last()->getCaptionInfo(), added);
+        QTRY_VERIFY(widget.listWidget()->viewport()->rect().intersects(
+            widget.listWidget()->visualItemRect(widget.listWidget()->item(100))));
     }
 };
 

@@ -21,7 +21,7 @@ class ScriptedPlayer : public CaptureSource
 {
     Q_OBJECT
 public:
-    bool isLoaded() const override { return true; }
+    bool isLoaded() const override { return loaded; }
     void pause() override { ++pauses; }
     void seekForCapture(double seconds) override
     {
@@ -55,6 +55,7 @@ public:
     int snapshots = 0;
     int captureType = -1;
     bool failSnapshots = false;
+    bool loaded = true;
 };
 
 } // namespace
@@ -138,6 +139,35 @@ private slots:
                                                   CaptureController::State::Captured,
                                                   CaptureController::State::SeekSent}));
         QCOMPARE(states.last(), CaptureController::State::Idle);
+    }
+
+    void pressesThatCannotActSayWhy_data()
+    {
+        QTest::addColumn<bool>("loaded");
+        QTest::addColumn<bool>("checked");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("capture, no video") << false << false << QStringLiteral("Nothing to capture");
+        QTest::newRow("capture checked, no video") << false << true << QStringLiteral("Nothing to capture");
+        QTest::newRow("capture checked, none ticked") << true << true << QStringLiteral("No caption ticked");
+    }
+
+    void pressesThatCannotActSayWhy()
+    {
+        QFETCH(bool, loaded);
+        QFETCH(bool, checked);
+        QFETCH(QString, title);
+        CaptionManager::instance()->createCaptions(TestSupport::utterances({{1000, 1500, QStringLiteral("one")}}),
+                                                   false);
+        CaptionManager::instance()->getCaptions().first()->isCheck = false;
+        m_player->loaded = loaded;
+        QSignalSpy failed(m_controller, &CaptureController::failed);
+        QSignalSpy busy(m_controller, &CaptureController::busy);
+        checked ? m_controller->startCaptureChecked() : m_controller->captureNow();
+        QCOMPARE(failed.count(), 1);
+        QCOMPARE(failed.first().first().toString(), title);
+        QCOMPARE(busy.count(), 0);
+        QCOMPARE(m_player->snapshots, 0);
+        QCOMPARE(m_player->captureType, -1);
     }
 
     void frameThatNeverShowsAndSeekNeverAnswered()

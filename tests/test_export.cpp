@@ -19,8 +19,15 @@
 #include <QDir>
 #include <QImageReader>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QtTest>
+
+#include <sys/resource.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
 
 class FakeFileManager : public QObject
 {
@@ -167,20 +174,22 @@ void TestExport::compositePngAndSecondExport()
     QStringList errors;
     const QStringList first = waitFinished(spy, &errors);
     QCOMPARE(errors, QStringList());
-    const QString expected = m_out + QStringLiteral("/holiday_1.png");
+    // A composite is named apart from single frames.
+    const QString expected = m_out + QStringLiteral("/holiday_stitch_1.png");
     QCOMPARE(first, QStringList{expected});
     QImageReader reader(expected);
     QCOMPARE(reader.format(), QByteArray("png"));
     const QImage written = reader.read();
     QCOMPARE(written.convertToFormat(QImage::Format_RGB32), composite.convertToFormat(QImage::Format_RGB32));
-    QCOMPARE(QDir(m_out + QStringLiteral("/tmp")).entryList(QDir::Files), QStringList());
+    // The temporary folder goes once it is empty.
+    QVERIFY(!QFileInfo::exists(m_out + QStringLiteral("/tmp")));
     QTRY_COMPARE(m_fileManager.calls.size(), 1);
     QCOMPARE(m_fileManager.calls.first(), QStringList{QUrl::fromLocalFile(expected).toString(QUrl::FullyEncoded)});
 
     const QByteArray before = readFile(expected);
     m_preview->exportButtonClickHandle();
     const QStringList second = waitFinished(spy);
-    QCOMPARE(second, QStringList{m_out + QStringLiteral("/holiday_1(1).png")});
+    QCOMPARE(second, QStringList{m_out + QStringLiteral("/holiday_stitch_1(1).png")});
     QCOMPARE(readFile(expected), before);
     QCOMPARE(QImageReader(second.first()).size(), QSize(320, 260));
 }
@@ -260,10 +269,11 @@ void TestExport::unregisteredWatermarkAndGuideOnce()
     QVERIFY(guide.wait(30000));
     // The files wait in the temporary folder until the guide is closed.
     QCOMPARE(spy.count(), 0);
-    QCOMPARE(QDir(m_out + QStringLiteral("/tmp")).entryList(QDir::Files), QStringList{QStringLiteral("holiday_1.png")});
+    QCOMPARE(QDir(m_out + QStringLiteral("/tmp")).entryList(QDir::Files),
+             QStringList{QStringLiteral("holiday_stitch_1.png")});
     m_preview->registerGuideClosedHandle();
     const QStringList files = waitFinished(spy);
-    QCOMPARE(files, QStringList{m_out + QStringLiteral("/holiday_1.png")});
+    QCOMPARE(files, QStringList{m_out + QStringLiteral("/holiday_stitch_1.png")});
     QVERIFY(manager->readInAppSettings(AppConfig::SHOW_GUIDE_REGISTER_BY_EXPORT, false).toBool());
 
     // White text is stamped into the dark frame.
@@ -384,6 +394,31 @@ void TestExport::writeFailureHasReason()
     QVERIFY(!error.isEmpty());
     QVERIFY2(!error.contains(QStringLiteral("Unknown error")), qPrintable(error));
     QVERIFY(!QFileInfo::exists(m_work + QStringLiteral("/vanished")));
+
+    // A write the system stops half-way (a full disk; here a file size limit)
+    // names the system's reason and the folder.
+    const QString limited = m_work + QStringLiteral("/limited");
+    QVERIFY(QDir().mkpath(limited));
+    QImage noise(400, 400, QImage::Format_RGB32);
+    QRandomGenerator random(42);
+    for (int y = 0; y < noise.height(); ++y) {
+        for (int x = 0; x < noise.width(); ++x) {
+            noise.setPixel(x, y, random.generate() | 0xff000000u);
+        }
+    }
+    rlimit old{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &old), 0);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit small = old;
+    small.rlim_cur = 64 * 1024;
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const QString refused = GlobalManager::instance()->saveImage(noise, limited, QStringLiteral("/big.png"), QString(),
+                                                                 &error);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &old), 0);
+    QVERIFY(refused.isEmpty());
+    QVERIFY2(error.contains(QString::fromLocal8Bit(std::strerror(EFBIG))), qPrintable(error));
+    QVERIFY2(error.contains(limited), qPrintable(error));
+    QCOMPARE(QDir(limited).entryList(QDir::Files | QDir::Hidden), QStringList());
 }
 
 void TestExport::revealFallsBackToFolderQuietly()

@@ -38,6 +38,7 @@ private slots:
     void restore_data();
     void restore();
     void registerDialogFlow();
+    void offlineRegistrationSaysSoInTheDialog();
     void guideWaitsForItsAnswer();
     void guideLeadsToRegistration();
     void keyNeverLogged();
@@ -253,6 +254,23 @@ void TestLicense::registerDialogFlow()
     // Opened again when registered, it says so at once.
     RegisterDialog again;
     QVERIFY(again.statusText().contains(QStringLiteral("registered")));
+}
+
+void TestLicense::offlineRegistrationSaysSoInTheDialog()
+{
+    useServer(false);
+    RegisterDialog dialog;
+    dialog.show();
+    dialog.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    dialog.keyEdit()->setFocus();
+    QTest::keyClicks(dialog.keyEdit(), kGoodKey);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QVERIFY(dialog.isWaiting());
+    QTRY_VERIFY_WITH_TIMEOUT(!dialog.isWaiting(), 10000);
+    QVERIFY(dialog.isVisible());
+    QVERIFY(!dialog.statusText().isEmpty());
+    QVERIFY(!GlobalManager::instance()->isRegister());
 }
 
 void TestLicense::guideWaitsForItsAnswer()

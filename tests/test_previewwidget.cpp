@@ -8,6 +8,7 @@
 #include "previewwidget.h"
 #include "propertyitem.h"
 #include "savefilebar.h"
+#include "settings.h"
 #include "testsupport.h"
 
 #include <QApplication>
@@ -113,6 +114,8 @@ void TestPreviewWidget::sizeLabelZoomAndScaleFields()
 
     // Typing a width sets the scale and the height in proportion.
     QLineEdit* width = preview.propertyItem(PropertyItem::Width)->lineEdit();
+    // Six digits fit beside the padding (6 px a side), the frame and the text margins.
+    QVERIFY(width->width() >= width->fontMetrics().horizontalAdvance(QStringLiteral("999999")) + 2 * 6 + 2 + 4);
     width->selectAll();
     QTest::keyClicks(width, QStringLiteral("250"));
     QCOMPARE(preview.propertyItem(PropertyItem::Scale)->getText(), QStringLiteral("25"));
@@ -130,6 +133,9 @@ void TestPreviewWidget::outputBarFollowsSettings()
     PreviewWidget preview;
     SaveFileBar* bar = preview.saveFileBar();
     QCOMPARE(bar->fileExtension(), AppConfig::FORMAT_JPG);
+    // On a fresh profile the export worker reads the format the bar shows.
+    QCOMPARE(Settings::instance()->value(AppConfig::FILE_EXTENSION, Settings::ExportWorker).toString(),
+             AppConfig::FORMAT_JPG);
     manager->saveSettings(AppConfig::FILE_SAVE_PATH, QStringLiteral("/some/where"));
     manager->saveSettings(AppConfig::FILE_EXTENSION, AppConfig::FORMAT_WEBP);
     QCOMPARE(bar->outputDir(), QStringLiteral("/some/where"));

@@ -394,6 +394,10 @@ private slots:
             QTranslator translator;
             QVERIFY2(translator.load(files.value(type)), qPrintable(files.value(type)));
             QCOMPARE(translator.translate("CaptionWidget", "Select all"), expected.at(type));
+            // The player's button and the caption panel's do different things.
+            QVERIFY2(translator.translate("VideoPlayWidget", "Capture selected")
+                         != translator.translate("CaptionWidget", "Capture checked"),
+                     qPrintable(files.value(type)));
         }
         // Plural forms follow the language's rules.
         QTranslator german;
@@ -453,7 +457,7 @@ private slots:
         QCOMPARE(texts(), english);
 
         chooseLanguage(TranslateManager::German);
-        const QStringList german{"Video öffnen", "Alle auswählen (2/2)", "Markierte erfassen", "Stil übernehmen",
+        const QStringList german{"Video öffnen", "Alle auswählen (2/2)", "Ausgewählte erfassen", "Stil übernehmen",
                                  "Exportieren",  "Raster",               "Breite",             "OK"};
         QCOMPARE(texts(), german);
         QCOMPARE(m_window->imagesWidget()->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly)->text(),

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>截取所选</translation>
+        <translation>截取勾选</translation>
     </message>
     <message>
         <source>Auto captions</source>
@@ -278,6 +278,22 @@
     <message>
         <source>Applying current style</source>
         <translation>正在应用当前样式</translation>
+    </message>
+    <message>
+        <source>Nothing to capture</source>
+        <translation>没有可截取的内容</translation>
+    </message>
+    <message>
+        <source>Open a video first, then capture its frames.</source>
+        <translation>请先打开视频，然后再截取画面。</translation>
+    </message>
+    <message>
+        <source>No caption ticked</source>
+        <translation>未勾选字幕</translation>
+    </message>
+    <message>
+        <source>Tick the captions whose moments you want in the caption list, then press Capture checked again.</source>
+        <translation>请在字幕列表中勾选需要的字幕，然后再次点击“截取勾选”。</translation>
     </message>
 </context>
 <context>
@@ -351,9 +367,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>下载工具在下载完成前停止了。</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -564,6 +577,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>图片为空。</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>此系统无法写入 %1 图片，请选择 PNG。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>图片太高，无法保存为 WEBP：%1×%2 像素，而 WEBP 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>图片太宽，无法保存为 WEBP：%1×%2 像素，而 WEBP 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>图片太高，无法保存为 JPG：%1×%2 像素，而 JPG 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>图片太宽，无法保存为 JPG：%1×%2 像素，而 JPG 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>无法创建文件：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>写入图片失败：%1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -616,41 +664,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>缩放比例为 0，没有可导出的图片。</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>图片为空。</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>此系统无法写入 %1 图片，请选择 PNG。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>图片太高，无法保存为 WEBP：%1×%2 像素，而 WEBP 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>图片太宽，无法保存为 WEBP：%1×%2 像素，而 WEBP 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>图片太高，无法保存为 JPG：%1×%2 像素，而 JPG 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>图片太宽，无法保存为 JPG：%1×%2 像素，而 JPG 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>无法创建文件：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>写入图片失败：%1</translation>
     </message>
 </context>
 <context>
@@ -893,7 +906,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>截取所选</translation>
+        <translation>截取勾选</translation>
     </message>
     <message>
         <source>Some captions were not captured</source>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>Markierte erfassen</translation>
+        <translation>Angehakte erfassen</translation>
     </message>
     <message>
         <source>Auto captions</source>
@@ -278,6 +278,22 @@
     <message>
         <source>Applying current style</source>
         <translation>Aktueller Stil wird angewendet</translation>
+    </message>
+    <message>
+        <source>Nothing to capture</source>
+        <translation>Nichts aufzunehmen</translation>
+    </message>
+    <message>
+        <source>Open a video first, then capture its frames.</source>
+        <translation>Öffnen Sie zuerst ein Video und nehmen Sie dann seine Bilder auf.</translation>
+    </message>
+    <message>
+        <source>No caption ticked</source>
+        <translation>Kein Untertitel angehakt</translation>
+    </message>
+    <message>
+        <source>Tick the captions whose moments you want in the caption list, then press Capture checked again.</source>
+        <translation>Haken Sie in der Untertitelliste die Untertitel an, deren Momente Sie möchten, und drücken Sie dann erneut „Angehakte erfassen“.</translation>
     </message>
 </context>
 <context>
@@ -351,9 +367,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>Das Download-Programm wurde beendet, bevor der Download abgeschlossen war.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -566,6 +579,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>Das Bild ist leer.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Dieses System kann keine %1-Bilder schreiben. Wählen Sie PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu hoch für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu breit für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu hoch für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu breit für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Die Datei kann nicht angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Das Bild konnte nicht geschrieben werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +666,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>Die Skalierung ist 0: Es gibt kein Bild zum Exportieren.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>Das Bild ist leer.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Dieses System kann keine %1-Bilder schreiben. Wählen Sie PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu hoch für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu breit für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu hoch für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu breit für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Die Datei kann nicht angelegt werden: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Das Bild konnte nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -860,7 +873,7 @@
     </message>
     <message>
         <source>Capture selected</source>
-        <translation>Markierte erfassen</translation>
+        <translation>Ausgewählte erfassen</translation>
     </message>
     <message>
         <source>Speed</source>
@@ -895,7 +908,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>Markierte erfassen</translation>
+        <translation>Angehakte erfassen</translation>
     </message>
     <message>
         <source>Some captions were not captured</source>

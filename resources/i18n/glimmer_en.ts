@@ -279,6 +279,22 @@
         <source>Applying current style</source>
         <translation>Applying current style</translation>
     </message>
+    <message>
+        <source>Nothing to capture</source>
+        <translation>Nothing to capture</translation>
+    </message>
+    <message>
+        <source>Open a video first, then capture its frames.</source>
+        <translation>Open a video first, then capture its frames.</translation>
+    </message>
+    <message>
+        <source>No caption ticked</source>
+        <translation>No caption ticked</translation>
+    </message>
+    <message>
+        <source>Tick the captions whose moments you want in the caption list, then press Capture checked again.</source>
+        <translation>Tick the captions whose moments you want in the caption list, then press Capture checked again.</translation>
+    </message>
 </context>
 <context>
     <name>CheckUpdateDialog</name>
@@ -351,9 +367,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>The download tool stopped before the download was complete.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -566,6 +579,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>The picture is empty.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>This system cannot write %1 pictures. Choose PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Cannot create the file: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Writing the picture failed: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +666,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>The scale is 0: there is no picture to export.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>The picture is empty.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>This system cannot write %1 pictures. Choose PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Cannot create the file: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Writing the picture failed: %1</translation>
     </message>
 </context>
 <context>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>Capturar seleccionados</translation>
+        <translation>Capturar marcados</translation>
     </message>
     <message>
         <source>Auto captions</source>
@@ -278,6 +278,22 @@
     <message>
         <source>Applying current style</source>
         <translation>Aplicando el estilo actual</translation>
+    </message>
+    <message>
+        <source>Nothing to capture</source>
+        <translation>Nada que capturar</translation>
+    </message>
+    <message>
+        <source>Open a video first, then capture its frames.</source>
+        <translation>Abra primero un vídeo y luego capture sus fotogramas.</translation>
+    </message>
+    <message>
+        <source>No caption ticked</source>
+        <translation>Ningún subtítulo marcado</translation>
+    </message>
+    <message>
+        <source>Tick the captions whose moments you want in the caption list, then press Capture checked again.</source>
+        <translation>Marque en la lista los subtítulos cuyos momentos desea y vuelva a pulsar Capturar marcados.</translation>
     </message>
 </context>
 <context>
@@ -351,9 +367,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>La herramienta de descarga se detuvo antes de completar la descarga.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -566,6 +579,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>La imagen está vacía.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Este sistema no puede guardar imágenes %1. Elija PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado alta para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado ancha para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado alta para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado ancha para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>No se puede crear el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>No se ha podido guardar la imagen: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +666,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>La escala es 0: no hay ninguna imagen que exportar.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>La imagen está vacía.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Este sistema no puede guardar imágenes %1. Elija PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado alta para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado ancha para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado alta para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado ancha para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>No se puede crear el archivo: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>No se ha podido guardar la imagen: %1</translation>
     </message>
 </context>
 <context>
@@ -895,7 +908,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>Capturar seleccionados</translation>
+        <translation>Capturar marcados</translation>
     </message>
     <message>
         <source>Some captions were not captured</source>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>Capturer la sélection</translation>
+        <translation>Capturer les cochés</translation>
     </message>
     <message>
         <source>Auto captions</source>
@@ -278,6 +278,22 @@
     <message>
         <source>Applying current style</source>
         <translation>Application du style actuel</translation>
+    </message>
+    <message>
+        <source>Nothing to capture</source>
+        <translation>Rien à capturer</translation>
+    </message>
+    <message>
+        <source>Open a video first, then capture its frames.</source>
+        <translation>Ouvrez d&apos;abord une vidéo, puis capturez ses images.</translation>
+    </message>
+    <message>
+        <source>No caption ticked</source>
+        <translation>Aucun sous-titre coché</translation>
+    </message>
+    <message>
+        <source>Tick the captions whose moments you want in the caption list, then press Capture checked again.</source>
+        <translation>Cochez dans la liste les sous-titres dont vous voulez les moments, puis appuyez de nouveau sur Capturer les cochés.</translation>
     </message>
 </context>
 <context>
@@ -351,9 +367,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>L’outil de téléchargement s’est arrêté avant la fin du téléchargement.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -566,6 +579,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>L’image est vide.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Ce système ne peut pas enregistrer d’images %1. Choisissez PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop haute pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop large pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop haute pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop large pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Impossible de créer le fichier : %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>L’écriture de l’image a échoué : %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +666,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>L’échelle est à 0 : il n’y a aucune image à exporter.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>L’image est vide.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Ce système ne peut pas enregistrer d’images %1. Choisissez PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop haute pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop large pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop haute pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop large pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossible de créer le fichier : %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>L’écriture de l’image a échoué : %1</translation>
     </message>
 </context>
 <context>
@@ -895,7 +908,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>Capturer la sélection</translation>
+        <translation>Capturer les cochés</translation>
     </message>
     <message>
         <source>Some captions were not captured</source>

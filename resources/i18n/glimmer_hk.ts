@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>截取所選</translation>
+        <translation>截取勾選</translation>
     </message>
     <message>
         <source>Auto captions</source>
@@ -278,6 +278,22 @@
     <message>
         <source>Applying current style</source>
         <translation>正在套用目前樣式</translation>
+    </message>
+    <message>
+        <source>Nothing to capture</source>
+        <translation>沒有可擷取的內容</translation>
+    </message>
+    <message>
+        <source>Open a video first, then capture its frames.</source>
+        <translation>請先開啟影片，然後再擷取畫面。</translation>
+    </message>
+    <message>
+        <source>No caption ticked</source>
+        <translation>未勾選字幕</translation>
+    </message>
+    <message>
+        <source>Tick the captions whose moments you want in the caption list, then press Capture checked again.</source>
+        <translation>請在字幕列表中勾選需要的字幕，然後再次點擊「截取勾選」。</translation>
     </message>
 </context>
 <context>
@@ -351,9 +367,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>下載工具在下載完成前停止了。</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -564,6 +577,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>圖片是空的。</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>此系統無法寫入 %1 圖片，請選擇 PNG。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太高，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太寬，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太高，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太寬，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>無法建立檔案：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>寫入圖片失敗：%1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -616,41 +664,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>縮放比例為 0，沒有可匯出的圖片。</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>圖片是空的。</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>此系統無法寫入 %1 圖片，請選擇 PNG。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太高，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太寬，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太高，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太寬，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>無法建立檔案：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>寫入圖片失敗：%1</translation>
     </message>
 </context>
 <context>
@@ -893,7 +906,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>截取所選</translation>
+        <translation>截取勾選</translation>
     </message>
     <message>
         <source>Some captions were not captured</source>

@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>Cattura selezionati</translation>
+        <translation>Cattura spuntati</translation>
     </message>
     <message>
         <source>Auto captions</source>
@@ -278,6 +278,22 @@
     <message>
         <source>Applying current style</source>
         <translation>Applicazione dello stile attuale</translation>
+    </message>
+    <message>
+        <source>Nothing to capture</source>
+        <translation>Niente da catturare</translation>
+    </message>
+    <message>
+        <source>Open a video first, then capture its frames.</source>
+        <translation>Apri prima un video, poi cattura i suoi fotogrammi.</translation>
+    </message>
+    <message>
+        <source>No caption ticked</source>
+        <translation>Nessun sottotitolo spuntato</translation>
+    </message>
+    <message>
+        <source>Tick the captions whose moments you want in the caption list, then press Capture checked again.</source>
+        <translation>Spunta nell&apos;elenco i sottotitoli di cui vuoi i momenti, poi premi di nuovo Cattura spuntati.</translation>
     </message>
 </context>
 <context>
@@ -351,9 +367,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>Lo strumento di download si è interrotto prima del completamento.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -566,6 +579,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>L’immagine è vuota.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Questo sistema non può salvare immagini %1. Scegli PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo alta per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo larga per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo alta per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo larga per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Impossibile creare il file: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Scrittura dell’immagine non riuscita: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +666,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>La scala è 0: non c’è alcuna immagine da esportare.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>L’immagine è vuota.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Questo sistema non può salvare immagini %1. Scegli PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo alta per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo larga per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo alta per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo larga per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossibile creare il file: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Scrittura dell’immagine non riuscita: %1</translation>
     </message>
 </context>
 <context>
@@ -895,7 +908,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>Cattura selezionati</translation>
+        <translation>Cattura spuntati</translation>
     </message>
     <message>
         <source>Some captions were not captured</source>

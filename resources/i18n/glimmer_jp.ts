@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>選択をキャプチャ</translation>
+        <translation>チェック済みをキャプチャ</translation>
     </message>
     <message>
         <source>Auto captions</source>
@@ -278,6 +278,22 @@
     <message>
         <source>Applying current style</source>
         <translation>現在のスタイルを適用しています</translation>
+    </message>
+    <message>
+        <source>Nothing to capture</source>
+        <translation>キャプチャするものがありません</translation>
+    </message>
+    <message>
+        <source>Open a video first, then capture its frames.</source>
+        <translation>まず動画を開いてから、フレームをキャプチャしてください。</translation>
+    </message>
+    <message>
+        <source>No caption ticked</source>
+        <translation>チェックされた字幕がありません</translation>
+    </message>
+    <message>
+        <source>Tick the captions whose moments you want in the caption list, then press Capture checked again.</source>
+        <translation>字幕リストで必要な字幕にチェックを入れてから、もう一度「チェック済みをキャプチャ」を押してください。</translation>
     </message>
 </context>
 <context>
@@ -351,9 +367,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>ダウンロードが完了する前にダウンロードツールが停止しました。</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -564,6 +577,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>画像が空です。</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>このシステムでは %1 画像を書き出せません。PNG を選んでください。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が縦に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が横に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が縦に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が横に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>ファイルを作成できません：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>画像の書き込みに失敗しました：%1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -616,41 +664,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>倍率が 0 のため、エクスポートする画像がありません。</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>画像が空です。</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>このシステムでは %1 画像を書き出せません。PNG を選んでください。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が縦に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が横に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が縦に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が横に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>ファイルを作成できません：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>画像の書き込みに失敗しました：%1</translation>
     </message>
 </context>
 <context>
@@ -893,7 +906,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>選択をキャプチャ</translation>
+        <translation>チェック済みをキャプチャ</translation>
     </message>
     <message>
         <source>Some captions were not captured</source>

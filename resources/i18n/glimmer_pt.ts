@@ -230,7 +230,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>Capturar selecionadas</translation>
+        <translation>Capturar marcadas</translation>
     </message>
     <message>
         <source>Auto captions</source>
@@ -278,6 +278,22 @@
     <message>
         <source>Applying current style</source>
         <translation>Aplicando o estilo atual</translation>
+    </message>
+    <message>
+        <source>Nothing to capture</source>
+        <translation>Nada para capturar</translation>
+    </message>
+    <message>
+        <source>Open a video first, then capture its frames.</source>
+        <translation>Abra primeiro um vídeo e depois capture os seus fotogramas.</translation>
+    </message>
+    <message>
+        <source>No caption ticked</source>
+        <translation>Nenhuma legenda marcada</translation>
+    </message>
+    <message>
+        <source>Tick the captions whose moments you want in the caption list, then press Capture checked again.</source>
+        <translation>Marque na lista as legendas cujos momentos deseja e prima de novo Capturar marcadas.</translation>
     </message>
 </context>
 <context>
@@ -351,9 +367,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>A ferramenta de download parou antes de concluir o download.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -566,6 +579,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>A imagem está vazia.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Este sistema não consegue gravar imagens %1. Escolha PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é alta demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é larga demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é alta demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é larga demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Não é possível criar o arquivo: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Falha ao gravar a imagem: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +666,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>A escala é 0: não há imagem para exportar.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>A imagem está vazia.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Este sistema não consegue gravar imagens %1. Escolha PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é alta demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é larga demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é alta demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é larga demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Não é possível criar o arquivo: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Falha ao gravar a imagem: %1</translation>
     </message>
 </context>
 <context>
@@ -895,7 +908,7 @@
     </message>
     <message>
         <source>Capture checked</source>
-        <translation>Capturar selecionadas</translation>
+        <translation>Capturar marcadas</translation>
     </message>
     <message>
         <source>Some captions were not captured</source>

@@ -568,5 +568,6 @@ CaptionInfo* CaptionManager::insertCaptionInfo(double time, double duration)
         ++m_captions[i]->index;
     }
     m_captions.insert(position, info);
+    emit captionInserted(info);
     return info;
 }

@@ -85,6 +85,8 @@ signals:
     // The caption records are about to be freed or handed over: drop every
     // pointer to them now.
     void aboutToReplaceCaptions();
+    // A caption was added to the list (the records kept their order).
+    void captionInserted(CaptionInfo* info);
 
 private:
     explicit CaptionManager(QObject* parent = nullptr);

@@ -6,9 +6,14 @@
 #include <QFontMetricsF>
 #include <QImageWriter>
 #include <QPainter>
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <cmath>
+#include <cstring>
 
 namespace {
 // The raster paint engine drops whatever lies beyond this coordinate.
@@ -112,20 +117,36 @@ bool PictureWriter::write(const QImage& image, const QString& path, const QStrin
     // Written beside the target and renamed on success, so a failed write never
     // leaves a truncated picture that looks like a result.
     QSaveFile file(path);
+    const QString folder = QDir::toNativeSeparators(QFileInfo(path).absolutePath());
     if (!file.open(QIODevice::WriteOnly)) {
-        return fail(tr("Cannot create the file: %1").arg(file.errorString()));
+        return fail(tr("Cannot create the file in %1: %2").arg(folder, file.errorString()));
     }
     // The format's default quality unless asked otherwise: for PNG a quality
     // only trades compression for speed.
-    QImageWriter writer(&file, format.toLower().toUtf8());
+    // Encoded first, then written: a failing disk then reports the system's
+    // reason (full, a size limit) instead of the encoder's "Unknown error".
+    QBuffer encoded;
+    encoded.open(QIODevice::WriteOnly);
+    QImageWriter writer(&encoded, format.toLower().toUtf8());
     writer.setQuality(quality);
     if (!writer.write(image)) {
-        const QString reason = file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
         file.cancelWriting();
-        return fail(tr("Writing the picture failed: %1").arg(reason));
+        return fail(tr("Writing the picture to %1 failed: %2").arg(folder, writer.errorString()));
+    }
+    errno = 0;
+    if (file.write(encoded.data()) != encoded.size() || !file.flush()) {
+        // A short write (the disk filled up mid-way) leaves the file without
+        // a reason; the system's is still in errno.
+        const int code = errno;
+        QString reason = file.errorString();
+        if (code != 0 && (file.error() == QFileDevice::NoError || reason == QLatin1String("Unknown error"))) {
+            reason = QString::fromLocal8Bit(std::strerror(code));
+        }
+        file.cancelWriting();
+        return fail(tr("Writing the picture to %1 failed: %2").arg(folder, reason));
     }
     if (!file.commit()) {
-        return fail(tr("Writing the picture failed: %1").arg(file.errorString()));
+        return fail(tr("Writing the picture to %1 failed: %2").arg(folder, file.errorString()));
     }
     return true;
 }

@@ -6,6 +6,7 @@
 #include "settings.h"
 
 #include <QDebug>
+#include <QDir>
 #include <QMetaMethod>
 #include <QWidget>
 
@@ -22,7 +23,7 @@ ImageExporter::ImageExporter(QWidget* owner)
     connect(m_thread, &SaveImageThread::saveFinished, this, &ImageExporter::saveFinishedHandle);
 }
 
-bool ImageExporter::start(const QList<QPixmap>& pixmaps)
+bool ImageExporter::start(const QList<QPixmap>& pixmaps, bool stitched)
 {
     if (isRunning() || pixmaps.isEmpty()) {
         return false;
@@ -36,7 +37,7 @@ bool ImageExporter::start(const QList<QPixmap>& pixmaps)
     m_busy = true;
     m_errors.clear();
     m_pending.clear();
-    m_thread->setPixmapList(pixmaps, folder);
+    m_thread->setPixmapList(pixmaps, folder, stitched);
     m_thread->start(QThread::InheritPriority);
     return true;
 }
@@ -93,6 +94,13 @@ void ImageExporter::moveAndReveal()
     }
     m_pending.clear();
     m_errors.clear();
+    // The pictures have left the temporary folder: do not leave it behind
+    // empty (rmdir keeps a folder that still holds anything).
+    const QString chosen = Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString();
+    const QString temporary = m_thread->getDir();
+    if (!chosen.isEmpty() && QDir(temporary) == QDir(chosen + QStringLiteral("/tmp"))) {
+        QDir().rmdir(temporary);
+    }
     if (!errors.isEmpty()) {
         qWarning() << "export failures:" << errors;
     }

@@ -22,7 +22,8 @@ public:
     explicit ImageExporter(QWidget* owner);
 
     // Starts writing; false when an export is still running or nothing is to be written.
-    bool start(const QList<QPixmap>& pixmaps);
+    // stitched: one composite picture rather than single frames.
+    bool start(const QList<QPixmap>& pixmaps, bool stitched = false);
     bool isRunning() const;
     SaveImageThread* saveThread() const { return m_thread; }
     // The headline of a finished export's failures; empty when nothing failed.

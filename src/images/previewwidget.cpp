@@ -387,7 +387,7 @@ void PreviewWidget::exportButtonClickHandle()
         emit exportFinishedSignal({}, {tr("The scale is 0: there is no picture to export.")});
         return;
     }
-    m_exporter->start({picture});
+    m_exporter->start({picture}, true);
 }
 
 void PreviewWidget::registerGuideClosedHandle()

@@ -19,7 +19,10 @@ PropertyItem::PropertyItem(int type, const QString& title, const QString& unit, 
     const bool signedValue = type == XSpace || type == YSpace;
     m_lineEdit->setValidator(new QRegularExpressionValidator(
         QRegularExpression(signedValue ? QStringLiteral("-?\\d{0,5}") : QStringLiteral("\\d{0,6}")), this));
-    m_lineEdit->setFixedWidth(AppConfig::rate(56));
+    // Room for the longest value the field takes, with its padding and frame.
+    const int textWidth = m_lineEdit->fontMetrics().horizontalAdvance(signedValue ? QStringLiteral("-99999")
+                                                                                  : QStringLiteral("999999"));
+    m_lineEdit->setFixedWidth(qMax(AppConfig::rate(56), textWidth + AppConfig::rate(24)));
     m_lineEdit->setAlignment(Qt::AlignRight);
     m_unitLabel->setVisible(!unit.isEmpty());
 

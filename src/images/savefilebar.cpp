@@ -64,6 +64,11 @@ SaveFileBar::SaveFileBar(bool withSelectAll, QWidget* parent)
     GlobalManager* manager = GlobalManager::instance();
     changeOutputDir(Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString());
     changeFileExtension(Settings::instance()->value(AppConfig::FILE_EXTENSION).toString());
+    // The export worker has a default of its own: store the format shown, so
+    // that what the user sees is what gets written.
+    if (!Settings::instance()->contains(AppConfig::FILE_EXTENSION)) {
+        manager->saveSettings(AppConfig::FILE_EXTENSION, m_formatBox->currentText());
+    }
 
     connect(manager, &GlobalManager::globalEvent, this, &SaveFileBar::globalEventHandle);
     connect(m_chooseButton, &QPushButton::clicked, this, &SaveFileBar::chooseDirHandle);

@@ -20,12 +20,12 @@ SaveImageThread::~SaveImageThread()
     wait();
 }
 
-void SaveImageThread::setPixmapList(const QList<QPixmap>& pixmaps, const QString& dir)
+void SaveImageThread::setPixmapList(const QList<QPixmap>& pixmaps, const QString& dir, bool stitched)
 {
     // Everything the worker needs is read here, on the caller's thread: the
     // worker touches no shared state of the program.
     GlobalManager* manager = GlobalManager::instance();
-    const QString base = manager->getCurrentFile().completeBaseName();
+    const QString base = manager->getCurrentFile().completeBaseName() + (stitched ? QStringLiteral("_stitch") : QString());
     const QString ext = Settings::instance()->value(AppConfig::FILE_EXTENSION, Settings::ExportWorker).toString();
     const bool registered = manager->isRegister();
     QMutexLocker locker(&m_mutex);

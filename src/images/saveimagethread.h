@@ -19,7 +19,9 @@ public:
 
     // Also takes the video's name, the format and the registration state as
     // they are now: the worker reads nothing else.
-    void setPixmapList(const QList<QPixmap>& pixmaps, const QString& dir);
+    // stitched: the pictures are composites, named VIDEO_stitch_N rather
+    // than VIDEO_N, so they never pass for single frames.
+    void setPixmapList(const QList<QPixmap>& pixmaps, const QString& dir, bool stitched = false);
     QString getDir() const;
 
 signals:

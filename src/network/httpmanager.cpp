@@ -66,13 +66,6 @@ QString HttpManager::replyMessage(const QByteArray& body, const QString& fallbac
     return message.isEmpty() ? fallback : message;
 }
 
-void HttpManager::emitSpeechError(const QString& message, const QByteArray& body)
-{
-    QJsonObject error;
-    error.insert(QStringLiteral("message"), message);
-    emit requestError(AppConfig::KEY_TASK_ID, error, body);
-}
-
 void HttpManager::loadCaptions(const QString& filePath, const QString& language)
 {
     qDebug() << "start loadCaptions";
@@ -80,10 +73,8 @@ void HttpManager::loadCaptions(const QString& filePath, const QString& language)
     const QFileInfo info(filePath);
     if (!info.isFile() || !info.isReadable() || info.size() == 0) {
         qDebug() << "Failed to open file";
-        emitSpeechError(info.isFile() && info.isReadable()
-                            ? tr("The video has no sound that could be extracted.")
-                            : tr("The extracted audio file could not be read."),
-                        QByteArray());
+        emit submitFailed(info.isFile() && info.isReadable() ? tr("The video has no sound that could be extracted.")
+                                                             : tr("The extracted audio file could not be read."));
         return;
     }
     // The bundled service may have to be started first; that is asynchronous.
@@ -97,7 +88,7 @@ void HttpManager::loadCaptions(const QString& filePath, const QString& language)
         m_waitingForService = false;
         if (!ok) {
             qDebug() << "speech service unavailable:" << message;
-            emitSpeechError(message, QByteArray());
+            emit submitFailed(message);
             return;
         }
         submit(filePath, language);
@@ -117,7 +108,7 @@ void HttpManager::submit(const QString& filePath, const QString& language)
     if (!file->open(QIODevice::ReadOnly)) {
         qDebug() << "Failed to open file";
         delete file;
-        emitSpeechError(tr("The extracted audio file could not be read."), QByteArray());
+        emit submitFailed(tr("The extracted audio file could not be read."));
         return;
     }
 
@@ -147,9 +138,8 @@ void HttpManager::submit(const QString& filePath, const QString& language)
             qDebug().noquote() << "Request failed. Error: " << reply->errorString();
             // A cancelled upload is the user's own doing: nothing to report.
             if (reply->error() != QNetworkReply::OperationCanceledError) {
-                emitSpeechError(
-                    replyMessage(body, tr("The speech service could not be reached: %1").arg(reply->errorString())),
-                    body);
+                emit submitFailed(
+                    replyMessage(body, tr("The speech service could not be reached: %1").arg(reply->errorString())));
             }
         }
         reply->deleteLater();
@@ -167,19 +157,13 @@ void HttpManager::getCaptionsByTaskId(const QString& taskId)
     m_taskId = taskId;
     connect(reply, &QNetworkReply::finished, this, [this, reply]() {
         const QByteArray body = reply->readAll();
-        const QJsonObject object = QJsonDocument::fromJson(body).object();
-        const QString state = object.value(QStringLiteral("state")).toString();
         if (reply->error() == QNetworkReply::OperationCanceledError) {
             // Cancelled by the user: nothing to report.
         } else if (reply->error() != QNetworkReply::NoError) {
-            emitSpeechError(
-                    replyMessage(body, tr("The speech service could not be reached: %1").arg(reply->errorString())),
-                    body);
-        } else if (state == QLatin1String("failed") || state == QLatin1String("running")) {
-            // The service answered, but with no captions: the user must learn why.
-            qDebug().noquote() << "recognition failed:" << body;
-            emitSpeechError(replyMessage(body, tr("The speech service could not recognise the audio.")), body);
+            qDebug().noquote() << "query failed:" << reply->errorString();
+            emit requestError(AppConfig::KEY_TASK_ID, QJsonObject(), body);
         } else {
+            // A "failed" answer is an answer too: the caption flow reads its reason.
             emit requestFinished(AppConfig::KEY_TASK_ID, QJsonObject(), body);
         }
         if (m_queryReply == reply) {

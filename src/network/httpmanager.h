@@ -45,12 +45,15 @@ public:
 signals:
     void requestFinished(QString key, const QJsonObject& object, const QByteArray& data);
     void requestError(QString key, const QJsonObject& object, const QByteArray& data);
+    // The audio never reached recognition (unreadable file, no service, the
+    // upload refused or failed): the reason in words for the user. Not a
+    // request error, so nothing reaches the bus.
+    void submitFailed(QString reason);
 
 private:
     explicit HttpManager(QObject* parent = nullptr);
     static QString keyForUrl(const QString& url);
     void submit(const QString& filePath, const QString& language);
-    void emitSpeechError(const QString& message, const QByteArray& body);
 
     QNetworkAccessManager* m_manager = nullptr;
     QPointer<QNetworkReply> m_uploadReply;

@@ -281,6 +281,12 @@ void MpvWidget::mpvEventHandle(mpv_event* event)
 {
     switch (event->event_id) {
     case MPV_EVENT_FILE_LOADED: {
+        if (!hasVideoTrack()) {
+            // Sound alone (or a cover picture) has no frames to capture.
+            runCommand({QStringLiteral("stop")});
+            failLoad(tr("the file has no video, only sound"));
+            break;
+        }
         const double seconds = getTotalSeconds();
         const int frames = getTotalFrame();
         frameInSecond = roundHalfAwayFromZero(frames / seconds);
@@ -586,6 +592,24 @@ QList<int> MpvWidget::externalSubtitleTracks() const
         mpv_free(type);
     }
     return ids;
+}
+
+bool MpvWidget::hasVideoTrack() const
+{
+    int64_t count = 0;
+    if (!mpv || mpv_get_property(mpv, "track-list/count", MPV_FORMAT_INT64, &count) < 0) {
+        return false;
+    }
+    bool found = false;
+    for (int64_t i = 0; i < count && !found; ++i) {
+        const QByteArray prefix = "track-list/" + QByteArray::number(static_cast<qlonglong>(i)) + "/";
+        char* type = mpv_get_property_string(mpv, (prefix + "type").constData());
+        int albumArt = 0;
+        mpv_get_property(mpv, (prefix + "albumart").constData(), MPV_FORMAT_FLAG, &albumArt);
+        found = type && std::strcmp(type, "video") == 0 && !albumArt;
+        mpv_free(type);
+    }
+    return found;
 }
 
 double MpvWidget::getTotalSeconds()

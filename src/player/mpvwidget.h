@@ -75,6 +75,8 @@ public:
     bool setOption(const QString& name, const QString& value);
     // Ids of the subtitle tracks mpv has loaded from external files.
     QList<int> externalSubtitleTracks() const;
+    // A picture track that is not just a cover image.
+    bool hasVideoTrack() const;
 
     PlayStatus getPlayStatus() const { return playStatus; }
     QString getFilePath() const { return filePath; }

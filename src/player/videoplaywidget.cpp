@@ -9,7 +9,9 @@
 #include "mpvwidget.h"
 #include "settings.h"
 
+#include <QApplication>
 #include <QComboBox>
+#include <QProxyStyle>
 #include <QDebug>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -29,6 +31,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace {
 const QString kIconPlay = QStringLiteral(":/images/videoplay/play.svg");
 const QString kIconPause = QStringLiteral(":/images/videoplay/pause.svg");
@@ -37,6 +41,21 @@ const QString kIconMute = QStringLiteral(":/images/videoplay/mute.svg");
 const QString kZeroTime = QStringLiteral("00:00:00:00");
 const char* const kButtonProperty = "button";
 constexpr double kInsertDurationMs = 3000.0;
+
+// A click on the seek bar goes to the pointer, as in every player.
+class JumpToClickStyle : public QProxyStyle
+{
+public:
+    using QProxyStyle::QProxyStyle;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override
+    {
+        if (hint == QStyle::SH_Slider_AbsoluteSetButtons) {
+            return Qt::LeftButton;
+        }
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
 
 QString twoDigits(int value)
 {
@@ -160,6 +179,9 @@ QWidget* VideoPlayWidget::createControls()
     m_progressSlider = new QSlider(Qt::Horizontal, controls);
     m_progressSlider->setObjectName(QStringLiteral("progress_slider"));
     m_progressSlider->setRange(0, 0);
+    auto* jumpStyle = new JumpToClickStyle(QStyleFactory::create(QApplication::style()->objectName()));
+    jumpStyle->setParent(m_progressSlider);
+    m_progressSlider->setStyle(jumpStyle);
     progressRow->addWidget(m_currentTimeLabel);
     progressRow->addWidget(m_progressSlider, 1);
     progressRow->addWidget(m_totalTimeLabel);
@@ -211,7 +233,8 @@ QWidget* VideoPlayWidget::createControls()
     for (double speed : {1.0, 1.25, 1.5, 1.75, 2.0, 2.25, 2.5, 2.75, 3.0}) {
         m_speedBox->addItem(QStringLiteral("%1x").arg(speed, 0, 'f', 2), speed);
     }
-    m_speedBox->setCurrentIndex(-1);
+    // The player starts at normal speed: show it.
+    m_speedBox->setCurrentIndex(0);
     connect(m_speedBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, [this](int index) {
         if (index < 0) {
             return;
@@ -512,12 +535,11 @@ CaptionInfo* VideoPlayWidget::insertCaptionAtCurrentTime()
     pause();
     CaptionInfo* info = CaptionManager::instance()->insertCaptionInfo(currentTime, kInsertDurationMs);
     if (!info) {
-        // The position lies inside a caption already: edit that one instead.
+        // The position lies inside a caption already: say so rather than
+        // open that one for typing, which would overwrite it.
         qDebug() << "insert caption: none at" << currentTime;
         refreshCaption(currentTime);
-        if (m_overlay->caption()) {
-            m_overlay->startEditing();
-        }
+        emit captionInsertRefused();
         return nullptr;
     }
     info->text = tr("New caption");
@@ -538,11 +560,14 @@ void VideoPlayWidget::mpvPropertyHandle(QString commond, double value)
         return;
     }
     if (commond == AppConfig::MPV_DURATION) {
-        m_totalTimeLabel->setText(GlobalManager::formatSecondToTime(value) + QLatin1Char(':')
-                                  + twoDigits(m_mpv->getFrameInSecond()));
+        // Frames within a second run from 0 to the rate less one: the
+        // duration's own frame field is that of its part second.
+        const int fps = m_mpv->getFrameInSecond();
+        const int frames = fps > 0 ? qBound(0, qRound((value - std::floor(value)) * fps), fps - 1) : 0;
+        m_totalTimeLabel->setText(GlobalManager::formatSecondToTime(value) + QLatin1Char(':') + twoDigits(frames));
     } else if (commond == AppConfig::MPV_TIME_POS) {
         m_currentTimeLabel->setText(GlobalManager::formatSecondToTime(value) + QLatin1Char(':')
-                                    + twoDigits(m_mpv->getNowFrameInSecond() + 1));
+                                    + twoDigits(m_mpv->getNowFrameInSecond()));
         if (!sliderDragging) {
             const QSignalBlocker blocker(m_progressSlider);
             m_progressSlider->setValue(static_cast<int>(value));

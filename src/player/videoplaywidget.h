@@ -100,6 +100,8 @@ signals:
     void captureCheckedRequested();
     void captureSeekAnswered();
     void subtitleTrackAdded();
+    // A caption could not be created: the position lies inside one already.
+    void captionInsertRefused();
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;

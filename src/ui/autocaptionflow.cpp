@@ -13,9 +13,14 @@ AutoCaptionFlow::AutoCaptionFlow(QObject* parent)
     : QObject(parent)
 {
     connect(HttpManager::instance(), &HttpManager::requestError, this,
-            [this](const QString& key, const QJsonObject& object, const QByteArray&) {
-                requestErrorHandle(key, object);
+            [this](const QString& key, const QJsonObject&, const QByteArray& body) {
+                requestErrorHandle(key, body);
             });
+    connect(HttpManager::instance(), &HttpManager::submitFailed, this, [this](const QString& reason) {
+        if (m_running) {
+            fail(reason);
+        }
+    });
 }
 
 bool AutoCaptionFlow::start(int languageKey, const QString& videoPath)
@@ -66,14 +71,13 @@ void AutoCaptionFlow::cancel()
     m_running = false;
 }
 
-void AutoCaptionFlow::requestErrorHandle(const QString& key, const QJsonObject& object)
+void AutoCaptionFlow::requestErrorHandle(const QString& key, const QByteArray& body)
 {
     if (key != AppConfig::TASK_ID || !m_running) {
         return;
     }
-    // The client words every failure for the user: the service's own answer
-    // when it gave one, otherwise what went wrong on the way.
-    const QString message = object.value(QStringLiteral("message")).toString();
+    // The service's own answer when it gave one, otherwise a plain word.
+    const QString message = SpeechReply::parse(body).message();
     fail(message.isEmpty() ? tr("The speech service could not be reached.") : message);
 }
 

@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QString>
 
-class QJsonObject;
+class QByteArray;
 
 // Automatic captions from the open video: extract the sound track, upload it,
 // turn the service's answer into the caption list. One request at a time.
@@ -32,7 +32,7 @@ signals:
 
 private:
     void fail(const QString& message);
-    void requestErrorHandle(const QString& key, const QJsonObject& object);
+    void requestErrorHandle(const QString& key, const QByteArray& body);
 
     bool m_running = false;
 };

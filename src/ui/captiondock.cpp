@@ -55,15 +55,26 @@ void CaptionDock::setShown(bool shown)
     if (raiseIfPoppedOut()) {
         return;
     }
+    const bool wasShown = m_panel->isVisibleTo(m_window);
+    const int before = m_window->width();
     m_panel->setVisible(shown);
     emit shownChanged(shown);
     if (!shown) {
         m_window->setMinimumWidth(AppConfig::rate(1000));
-        if (!m_window->isMaximized()) {
-            m_window->resize(m_window->width() - m_panel->width(), m_window->height());
+        if (wasShown && !m_window->isMaximized()) {
+            // Give back what showing took, not the panel's current width:
+            // the splitter shares space, and the difference would pile up.
+            const int shrink = m_grownBy >= 0 ? m_grownBy : m_panel->width();
+            m_window->resize(m_window->width() - shrink, m_window->height());
         }
+        m_grownBy = -1;
     } else {
-        m_window->setMinimumWidth(AppConfig::rate(1000) + m_panel->width());
+        // A panel never shown has no width yet: its minimum is what it needs.
+        const int panelWidth = qMax(m_panel->minimumSizeHint().width(), m_panel->minimumWidth());
+        m_window->setMinimumWidth(AppConfig::rate(1000) + panelWidth);
+        if (!wasShown) {
+            m_grownBy = m_window->isMaximized() ? 0 : m_window->width() - before;
+        }
     }
 }
 

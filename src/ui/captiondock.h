@@ -37,6 +37,8 @@ private:
     QSplitter* m_splitter;
     QWidget* m_window;
     QDialog* m_dialog = nullptr;
+    // How much showing the panel widened the window; hiding gives it back.
+    int m_grownBy = -1;
 };
 
 #endif // CAPTIONDOCK_H

@@ -1,5 +1,7 @@
 #include "captionlabelwidget.h"
 
+#include "asstext.h"
+
 #include <QEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -25,7 +27,9 @@ CaptionLabelWidget::CaptionLabelWidget(QWidget* parent)
 
 void CaptionLabelWidget::setText(const QString& text)
 {
-    m_label->setText(text);
+    // The row reads like the picture; the editor keeps the file's own text.
+    m_text = text;
+    m_label->setText(AssText::readable(text));
     if (!m_editing) {
         m_editor->setText(text);
     }
@@ -33,7 +37,7 @@ void CaptionLabelWidget::setText(const QString& text)
 
 QString CaptionLabelWidget::text() const
 {
-    return m_label->text();
+    return m_text;
 }
 
 void CaptionLabelWidget::setTextStyle(const QString& style)
@@ -48,11 +52,11 @@ void CaptionLabelWidget::setEditing(bool editing)
     }
     if (editing) {
         m_editing = true;
-        m_editor->setText(m_label->text());
+        m_editor->setText(m_text);
         m_stack->setCurrentWidget(m_editor);
         m_editor->setFocus();
         m_editor->selectAll();
-        emit changeEidtSignal(true, m_label->text());
+        emit changeEidtSignal(true, m_text);
     } else {
         finishEditing(true);
     }
@@ -65,10 +69,11 @@ void CaptionLabelWidget::finishEditing(bool accept)
     }
     m_editing = false;
     if (accept) {
-        m_label->setText(m_editor->text());
+        m_text = m_editor->text();
+        m_label->setText(AssText::readable(m_text));
     }
     m_stack->setCurrentWidget(m_label);
-    emit changeEidtSignal(false, m_label->text());
+    emit changeEidtSignal(false, m_text);
 }
 
 void CaptionLabelWidget::mouseDoubleClickEvent(QMouseEvent* event)

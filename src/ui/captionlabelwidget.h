@@ -36,6 +36,7 @@ private:
     QLabel* m_label = nullptr;
     QLineEdit* m_editor = nullptr;
     bool m_editing = false;
+    QString m_text;
 };
 
 #endif // CAPTIONLABELWIDGET_H

@@ -9,6 +9,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QDebug>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -32,9 +33,31 @@ CaptionWidget::CaptionWidget(QWidget* parent)
         m_playingItem = nullptr;
         m_list->clear();
         m_items.clear();
+        // A search for the old captions would hide the new ones.
+        const QSignalBlocker blocker(m_search);
+        m_search->clear();
+    });
+    // A caption created at the player's position shows at once, in view.
+    connect(CaptionManager::instance(), &CaptionManager::captionInserted, this, [this](CaptionInfo* info) {
+        createCaption(QByteArray());
+        scrollToCaption(info);
     });
     retranslate();
     createCaption(QByteArray());
+}
+
+void CaptionWidget::scrollToCaption(CaptionInfo* info)
+{
+    const int index = getCaptionInfoBySearch().indexOf(info);
+    if (index < 0) {
+        return;
+    }
+    while (m_list->count() <= index && m_list->count() < getCaptionInfoBySearch().size()) {
+        const int from = m_list->count();
+        loadItems(from, from + PAGE_SIZE - 1);
+        m_page = (m_list->count() - 1) / PAGE_SIZE;
+    }
+    m_list->scrollToItem(m_list->item(index));
 }
 
 void CaptionWidget::buildUi()
@@ -70,6 +93,7 @@ void CaptionWidget::buildUi()
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->viewport()->installEventFilter(this);
 
     m_emptyWidget = new QWidget(this);
     m_emptyWidget->setObjectName(QStringLiteral("caption_empty"));
@@ -136,6 +160,9 @@ void CaptionWidget::buildUi()
     connect(m_search, &QLineEdit::textChanged, this, &CaptionWidget::searchTextChanged);
     connect(m_searchButton, &QPushButton::clicked, this, [this]() { searchTextChanged(m_search->text()); });
     connect(m_list->verticalScrollBar(), &QScrollBar::valueChanged, this, &CaptionWidget::scrollValueChanged);
+    // Rows that do not fill the list leave nothing to scroll: load on.
+    connect(m_list->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+            [this]() { scrollValueChanged(m_list->verticalScrollBar()->value()); });
     connect(m_list, &QListWidget::itemClicked, this, &CaptionWidget::captionListItemClicked);
     connect(m_popupButton, &QPushButton::clicked, this, [this]() {
         if (isWindow() || parentWidget() == nullptr || window()->objectName() == QStringLiteral("caption_dialog")) {
@@ -270,8 +297,8 @@ void CaptionWidget::loadItems(int from, int to)
         auto* row = new QListWidgetItem(m_list);
         row->setData(Qt::UserRole, QVariant::fromValue(info));
         auto* item = new CaptionItem(info);
-        row->setSizeHint(item->sizeHint());
         m_list->setItemWidget(row, item);
+        fitRow(row);
         m_items.append(item);
         connect(item, &CaptionItem::changeToEditSignal, this, [this](bool editing, CaptionItem* edited) {
             if (editing) {
@@ -323,7 +350,10 @@ void CaptionWidget::searchTextChanged(const QString& text)
 
 void CaptionWidget::scrollValueChanged(int value)
 {
-    if (value != m_list->verticalScrollBar()->maximum()) {
+    // The next page comes a screen before the end, so the bar never sticks
+    // at a bottom that is not the list's end.
+    const QScrollBar* bar = m_list->verticalScrollBar();
+    if (value < bar->maximum() - qMax(bar->pageStep(), m_list->viewport()->height())) {
         return;
     }
     const int next = m_page * PAGE_SIZE + PAGE_SIZE;
@@ -413,9 +443,33 @@ void CaptionWidget::changeCaptureString(const QString& text)
 
 void CaptionWidget::updateCaptionItem(CaptionInfo* info)
 {
-    for (CaptionItem* item : qAsConst(m_items)) {
-        if (!info || item->getCaptionInfo() == info) {
+    for (int i = 0; i < m_list->count(); ++i) {
+        auto* item = qobject_cast<CaptionItem*>(m_list->itemWidget(m_list->item(i)));
+        if (item && (!info || item->getCaptionInfo() == info)) {
             item->refresh();
+            fitRow(m_list->item(i));
         }
     }
+}
+
+void CaptionWidget::fitRow(QListWidgetItem* row)
+{
+    // Rows are as wide as the list and as tall as their wrapped text.
+    QWidget* item = m_list->itemWidget(row);
+    if (!item) {
+        return;
+    }
+    const int width = m_list->viewport()->width();
+    const int height = item->hasHeightForWidth() ? item->heightForWidth(width) : -1;
+    row->setSizeHint(QSize(width, height > 0 ? height : item->sizeHint().height()));
+}
+
+bool CaptionWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_list->viewport() && event->type() == QEvent::Resize) {
+        for (int i = 0; i < m_list->count(); ++i) {
+            fitRow(m_list->item(i));
+        }
+    }
+    return BaseWidget::eventFilter(watched, event);
 }

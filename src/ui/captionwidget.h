@@ -37,6 +37,8 @@ public:
     void changeCaptureString(const QString& text);
     // Refreshes the row of a caption edited elsewhere (overlay, toolbar).
     void updateCaptionItem(CaptionInfo* info);
+    // Makes sure the caption's row exists and is in view.
+    void scrollToCaption(CaptionInfo* info);
     // Key of the language chosen for automatic captions.
     int currentLanguageKey() const;
 
@@ -65,11 +67,15 @@ public slots:
     void scrollValueChanged(int value);
     void captionListItemClicked(QListWidgetItem* item);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void buildUi();
     void retranslate();
     void showEmptyState(bool empty);
     void fillLanguageBox();
+    void fitRow(QListWidgetItem* row);
 
     QLabel* m_logo = nullptr;
     QLabel* m_title = nullptr;

@@ -68,6 +68,10 @@ void CaptureController::setState(State state)
 
 void CaptureController::captureNow()
 {
+    if (!m_source->isLoaded()) {
+        emit failed(tr("Nothing to capture"), tr("Open a video first, then capture its frames."));
+        return;
+    }
     m_source->pause();
     const QPixmap pixmap = m_source->snapshot();
     if (pixmap.isNull()) {
@@ -107,6 +111,13 @@ void CaptureController::startCaptureChecked()
             m_skipped = 0;
             m_source->setCaptureType(0);
             emit checkedPassFinished(skipped);
+        } else if (!m_source->isLoaded()) {
+            emit failed(tr("Nothing to capture"), tr("Open a video first, then capture its frames."));
+        } else {
+            // The player keeps its capture-checked mode, as after any empty pass.
+            emit failed(tr("No caption ticked"),
+                        tr("Tick the captions whose moments you want in the caption list, then press "
+                           "Capture checked again."));
         }
         return;
     }

@@ -27,7 +27,8 @@ MainMenu::MainMenu(QWidget* parent)
         m_actions.insert(type, action);
         return action;
     };
-    add(MenuOpenVideo)->setShortcut(QKeySequence::Open);
+    // Ctrl+O belongs to the player panel; the menu only names it.
+    add(MenuOpenVideo);
     add(MenuAddSubtitle);
     add(MenuCaptionPanel)->setCheckable(true);
     addSeparator();
@@ -85,6 +86,8 @@ void MainMenu::retranslate()
     for (auto it = m_actions.constBegin(); it != m_actions.constEnd(); ++it) {
         it.value()->setText(labels.value(it.key()));
     }
+    action(MenuOpenVideo)->setText(labels.value(MenuOpenVideo) + QLatin1Char('\t')
+                                   + QKeySequence(Qt::CTRL | Qt::Key_O).toString(QKeySequence::NativeText));
     m_formatMenu->setTitle(tr("Output format"));
     m_languageMenu->setTitle(tr("Language"));
 }

@@ -186,8 +186,8 @@ void MainWindow::initMenu()
     connect(m_menu, &MainMenu::languageTapped, this, &MainWindow::languageMenuTapByType);
     connect(m_menu, &QMenu::aboutToShow, this,
             [this]() { m_menu->action(MainMenu::MenuCaptionPanel)->setChecked(m_captionWidget->isVisible()); });
-    // The window-wide shortcuts of the menu work while it is closed.
-    addActions({m_menu->action(MainMenu::MenuOpenVideo), m_menu->action(MainMenu::MenuQuit)});
+    // Quit works while the menu is closed; Ctrl+O is the player panel's own.
+    addAction(m_menu->action(MainMenu::MenuQuit));
 }
 
 void MainWindow::initTopBarMenu()

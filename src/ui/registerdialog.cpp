@@ -29,6 +29,10 @@ RegisterDialog::RegisterDialog(QWidget* parent)
     m_registerButton = new QPushButton(this);
     m_registerButton->setDefault(true);
     m_closeButton = new QPushButton(this);
+    // While the key is checked the focus falls on Cancel: Return must not
+    // make it the default button and close the dialog before the answer.
+    m_closeButton->setAutoDefault(false);
+    m_registerButton->setAutoDefault(false);
 
     auto* buttons = new QHBoxLayout();
     buttons->addStretch();
@@ -43,7 +47,6 @@ RegisterDialog::RegisterDialog(QWidget* parent)
     layout->addLayout(buttons);
 
     connect(m_registerButton, &QPushButton::clicked, this, &RegisterDialog::registerClickHandle);
-    connect(m_keyEdit, &QLineEdit::returnPressed, this, &RegisterDialog::registerClickHandle);
     connect(m_keyEdit, &QLineEdit::textChanged, this,
             [this](const QString& text) { m_registerButton->setEnabled(!m_waiting && !text.trimmed().isEmpty()); });
     connect(m_closeButton, &QPushButton::clicked, this, &QDialog::reject);

@@ -51,10 +51,11 @@ void WindowFlows::initCapture()
             showMessage(tr("No video"), tr("Open a video first, then create a caption at the current time."));
             return;
         }
-        if (!m_parts.player->insertCaptionAtCurrentTime()) {
-            showMessage(tr("No room for a caption"),
-                        tr("A caption already covers the current time. Move to a moment without a caption."));
-        }
+        m_parts.player->insertCaptionAtCurrentTime();
+    });
+    connect(player, &VideoPlayWidget::captionInsertRefused, this, [this]() {
+        showMessage(tr("No room for a caption"),
+                    tr("A caption already covers the current time. Move to a moment without a caption."));
     });
     // The caption panel's capture button is the player's.
     connect(m_parts.captions, &CaptionWidget::captureSelectSignal, this, [this](int) {
