@@ -3,6 +3,7 @@
 // or overlap shows up as a wrong colour.
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "imagecanvas.h"
 #include "imagecomposer.h"
 #include "imageitem.h"
 #include "previewwidget.h"
@@ -183,6 +184,24 @@ void TestComposition::layouts()
     const QPixmap composite = compose(sizes, layout, x, y, column);
     QCOMPARE(composite.size(), expectedSize);
     const QImage image = composite.toImage().convertToFormat(QImage::Format_RGB32);
+
+    // On screen: drawn from the frames at 100 % it is the same picture; at a
+    // quarter, from the reduced copies, it is the composite scaled down.
+    QList<QImage> frames;
+    QList<QImage> copies;
+    for (ImageItem* item : qAsConst(m_items)) {
+        frames << item->getPixmap().toImage();
+        copies << item->thumbnail();
+    }
+    const int xs = m_preview->propertyValue(PropertyItem::XSpace);
+    const int ys = m_preview->propertyValue(PropertyItem::YSpace);
+    const int columns = m_preview->propertyValue(PropertyItem::Column);
+    QCOMPARE(ImageComposer::composeScaled(frames, sizes, layout, xs, ys, columns, 1.0), image);
+    const QImage quarter = ImageComposer::composeScaled(copies, sizes, layout, xs, ys, columns, 0.25);
+    QCOMPARE(quarter.size(), QSize(qRound(expectedSize.width() * 0.25), qRound(expectedSize.height() * 0.25)));
+    const double difference = TestSupport::meanDifference(
+        quarter, image.scaled(quarter.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    QVERIFY2(difference < 10.0, qPrintable(QString::number(difference)));
     for (int row = 0; row < image.height(); ++row) {
         const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(row));
         for (int col = 0; col < image.width(); ++col) {
@@ -206,11 +225,15 @@ void TestComposition::layouts()
 
 void TestComposition::emptySelectionKeepsComposite()
 {
+    // Only kept while shown at 100 %.
+    m_preview->changeZoomHandle(ImageCanvas::Actual);
     const QPixmap first = compose({QSize(50, 20), QSize(50, 20)}, PreviewWidget::Vertical, "0", "0", "1");
     QCOMPARE(first.size(), QSize(50, 40));
     GlobalManager::instance()->selectedImages().clear();
     QVERIFY(m_preview->getGroupPixmap().isNull());
     QCOMPARE(m_preview->groupPixmap().cacheKey(), first.cacheKey());
+    m_preview->changeZoomHandle(ImageCanvas::Fit);
+    QVERIFY(m_preview->groupPixmap().isNull());
 }
 
 void TestComposition::tallCanvasIsExact()

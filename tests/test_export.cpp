@@ -3,6 +3,7 @@
 // user, and the reveal in the file manager over a private session bus.
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "imagecanvas.h"
 #include "imageexporter.h"
 #include "imageitem.h"
 #include "imageswidget.h"
@@ -72,6 +73,9 @@ private slots:
     void unusableOutputFolderFallsBack();
     void nothingLostWhenNoFolderTakesFiles();
     void tooTallForWebpIsReported();
+    void stitchTooLargeForFormatIsRefused_data();
+    void stitchTooLargeForFormatIsRefused();
+    void previewAndExportAfterManyCaptures();
     void watermarkOnTallPicture();
     void writeFailureHasReason();
     void revealFallsBackToFolderQuietly();
@@ -163,7 +167,7 @@ void TestExport::compositePngAndSecondExport()
     m_preview->propertyItem(PropertyItem::YSpace)->setText(QStringLiteral("-100"));
     m_preview->propertyItem(PropertyItem::Scale)->setText(QStringLiteral("100"));
     m_preview->showImage();
-    const QImage composite = m_preview->groupPixmap().toImage();
+    const QImage composite = m_preview->getGroupPixmap().toImage();
     QCOMPARE(composite.size(), QSize(320, 260));
     QCOMPARE(m_preview->sizeLabel()->text(), QStringLiteral("320x260"));
 
@@ -350,17 +354,112 @@ void TestExport::tooTallForWebpIsReported()
     QVERIFY(errors.first().contains(QStringLiteral("too tall")));
     QVERIFY(errors.first().contains(QStringLiteral("PNG")));
     QVERIFY(!QFileInfo::exists(m_out + QStringLiteral("/holiday_2.webp")));
+}
 
-    // A stitched picture that is too tall: nothing written, and the user is told.
+void TestExport::stitchTooLargeForFormatIsRefused_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QString>("ySpace");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<QString>("limit");
+    QTest::newRow("WEBP") << AppConfig::FORMAT_WEBP << "8000" << 16540 << "16383";
+    QTest::newRow("JPG") << AppConfig::FORMAT_JPG << "33000" << 66540 << "65500";
+}
+
+void TestExport::stitchTooLargeForFormatIsRefused()
+{
+    // Refused at once, before anything is composed or written, naming the limit and PNG.
+    QFETCH(QString, format);
+    QFETCH(QString, ySpace);
+    QFETCH(int, height);
+    QFETCH(QString, limit);
+    GlobalManager::instance()->saveSettings(AppConfig::FILE_EXTENSION, format);
+    for (int i = 0; i < 3; ++i) {
+        m_strip->addImage(capture(solidFrame(Qt::red), i / 25.0, i));
+    }
     m_preview->setRadioType(PreviewWidget::Vertical);
-    m_preview->propertyItem(PropertyItem::YSpace)->setText(QStringLiteral("8000"));
+    m_preview->propertyItem(PropertyItem::YSpace)->setText(ySpace);
+    m_preview->propertyItem(PropertyItem::Scale)->setText(QStringLiteral("100"));
     m_preview->showImage();
-    QCOMPARE(m_preview->groupPixmap().height(), 16540);
-    QSignalSpy previewSpy(m_preview, &PreviewWidget::exportFinishedSignal);
+    QCOMPARE(m_preview->compositeSize(), QSize(320, height));
+    QSignalSpy spy(m_preview, &PreviewWidget::exportFinishedSignal);
     m_preview->exportButtonClickHandle();
-    QCOMPARE(waitFinished(previewSpy, &errors), QStringList());
+    QCOMPARE(spy.size(), 1);
+    QCOMPARE(spy.first().at(0).toStringList(), QStringList());
+    const QStringList errors = spy.first().at(1).toStringList();
     QCOMPARE(errors.size(), 1);
-    QVERIFY(errors.first().contains(QStringLiteral("too tall")));
+    QVERIFY2(errors.first().contains(QStringLiteral("too tall")) && errors.first().contains(limit)
+                 && errors.first().contains(QStringLiteral("PNG")),
+             qPrintable(errors.first()));
+    QVERIFY(!QFileInfo::exists(m_out));
+    QVERIFY(!m_preview->exporter()->isRunning());
+}
+
+void TestExport::previewAndExportAfterManyCaptures()
+{
+    // A pass of many captures arriving back to back, as the window wires the
+    // preview. The stitch is past what a painter can address.
+    connect(GlobalManager::instance(), &GlobalManager::globalEvent, m_preview, [this](const QString& name) {
+        if (name == AppConfig::SELECT_IMAGE_COMPLETE) {
+            m_preview->scrollToEnd();
+            m_preview->initScaleProperty();
+        }
+    });
+    m_preview->resize(600, 500);
+    m_preview->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_preview));
+    m_preview->setRadioType(PreviewWidget::Vertical);
+    m_preview->propertyItem(PropertyItem::YSpace)->setText(QStringLiteral("0"));
+    m_preview->propertyItem(PropertyItem::Scale)->setText(QStringLiteral("100"));
+    const int count = 100;
+    auto color = [](int i) { return QColor::fromHsv(i * 37 % 360, 255, 100 + i % 3 * 70); };
+    for (int i = 0; i < count; ++i) {
+        m_strip->addImage(capture(solidFrame(color(i), 640, 360), i / 25.0, i));
+    }
+    // The size is current at once; the picture within the refresh interval.
+    QCOMPARE(m_preview->sizeLabel()->text(), QStringLiteral("640x36000"));
+    QCOMPARE(m_preview->propertyItem(PropertyItem::Height)->getText(), QStringLiteral("36000"));
+    ImageCanvas* canvas = m_preview->canvas();
+    auto bandColor = [canvas](int frame, int frameHeight) {
+        const QImage shown = canvas->pixmap().toImage();
+        const double f = double(shown.height()) / canvas->pictureSize().height();
+        return shown.pixelColor(shown.width() / 2, int((frame * frameHeight + frameHeight / 2) * f));
+    };
+    auto near = [](const QColor& a, const QColor& b) {
+        return qAbs(a.red() - b.red()) + qAbs(a.green() - b.green()) + qAbs(a.blue() - b.blue()) < 12;
+    };
+    QTRY_VERIFY(near(bandColor(count - 1, 360), color(count - 1)));
+    QCOMPARE(canvas->pictureSize(), QSize(640, 36000));
+    // Drawn for the screen from reduced copies, no full-size canvas kept.
+    QVERIFY(canvas->pixmap().height() <= canvas->viewport()->height());
+    QVERIFY(m_preview->groupPixmap().isNull());
+    for (int i : {0, 37, 98}) {
+        QVERIFY2(near(bandColor(i, 360), color(i)), qPrintable(QString::number(i)));
+    }
+
+    // It ends on the current selection: the last frame unticked.
+    m_strip->items().last()->checkBox()->click();
+    QCOMPARE(m_preview->compositeSize(), QSize(640, 35640));
+    QTRY_COMPARE(canvas->pictureSize(), QSize(640, 35640));
+    QTRY_VERIFY(near(bandColor(count - 2, 360), color(count - 2)));
+
+    // 100 % shows, and the export writes, the full-size picture.
+    m_preview->changeZoomHandle(ImageCanvas::Actual);
+    QCOMPARE(canvas->pixmap().size(), QSize(640, 35640));
+    QSignalSpy spy(m_preview, &PreviewWidget::exportFinishedSignal);
+    m_preview->exportButtonClickHandle();
+    QStringList errors;
+    const QStringList files = waitFinished(spy, &errors);
+    QCOMPARE(errors, QStringList());
+    QCOMPARE(files.size(), 1);
+    const QImage written = QImage(files.first()).convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(written.size(), QSize(640, 35640));
+    for (int i = 0; i < count - 1; ++i) {
+        QCOMPARE(written.pixel(5, i * 360 + 3), color(i).rgb());
+        QCOMPARE(written.pixel(634, i * 360 + 356), color(i).rgb());
+    }
+    m_preview->changeZoomHandle(ImageCanvas::Fit);
+    QVERIFY(m_preview->groupPixmap().isNull());
 }
 
 void TestExport::watermarkOnTallPicture()

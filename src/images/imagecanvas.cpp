@@ -1,8 +1,16 @@
 #include "imagecanvas.h"
 
+#include "imagecomposer.h"
+
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
+
+namespace {
+// Smooth scaling in the raster engine steps through the source in 16.16 fixed
+// point: a source past this many pixels on a side is reduced first.
+constexpr int kSmoothSourceLimit = 16383;
+} // namespace
 
 class ImageCanvas::Surface : public QWidget
 {
@@ -17,12 +25,13 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override
     {
-        const QPixmap& pixmap = m_owner->m_pixmap;
-        if (pixmap.isNull()) {
+        const QPixmap& pixmap = m_owner->m_reduced.isNull() ? m_owner->m_pixmap : m_owner->m_reduced;
+        if (pixmap.isNull() || m_owner->m_size.isEmpty()) {
             return;
         }
         QPainter painter(this);
-        const double f = m_owner->m_factor;
+        // Screen pixels per pixel of what is drawn.
+        const double f = m_owner->m_factor * m_owner->m_size.width() / pixmap.width();
         if (qFuzzyCompare(f, 1.0)) {
             painter.drawPixmap(event->rect(), pixmap, event->rect());
             return;
@@ -52,7 +61,14 @@ ImageCanvas::ImageCanvas(QWidget* parent)
 
 void ImageCanvas::setPixmap(const QPixmap& pixmap)
 {
-    m_pixmap = pixmap;
+    setPicture(pixmap.size(), pixmap);
+}
+
+void ImageCanvas::setPicture(const QSize& size, const QPixmap& shown)
+{
+    m_size = shown.isNull() && size.isEmpty() ? QSize() : size;
+    m_pixmap = shown;
+    m_reduced = QPixmap();
     changeSizeByWindow();
     m_surface->update();
 }
@@ -64,23 +80,38 @@ void ImageCanvas::setZoomType(int type)
     m_surface->update();
 }
 
+double ImageCanvas::fitFactor(const QSize& size) const
+{
+    if (size.isEmpty()) {
+        return 1.0;
+    }
+    const QSize area = maximumViewportSize();
+    // Never enlarge a small picture: fitting only shrinks.
+    return qMin(1.0, qMin(area.width() / double(size.width()), area.height() / double(size.height())));
+}
+
 void ImageCanvas::changeSizeByWindow()
 {
-    if (m_pixmap.isNull()) {
+    if (m_size.isEmpty()) {
         m_factor = 1.0;
+        m_reduced = QPixmap();
         m_surface->resize(0, 0);
         emit zoomChangedSignal(m_zoomType, m_factor);
         return;
     }
-    const QSize size = m_pixmap.size();
-    if (m_zoomType == Actual) {
-        m_factor = 1.0;
+    m_factor = m_zoomType == Actual ? 1.0 : fitFactor(m_size);
+    const QSize target(qMax(1, qRound(m_size.width() * m_factor)), qMax(1, qRound(m_size.height() * m_factor)));
+    const bool huge = qMax(m_pixmap.width(), m_pixmap.height()) > kSmoothSourceLimit;
+    if (huge && m_factor < 1.0) {
+        // Twice the shown size, so that the smooth pass at paint time still averages.
+        if (m_reduced.isNull() || m_reduced.width() < target.width() || m_reduced.width() > 2 * target.width()) {
+            m_reduced = QPixmap::fromImage(
+                ImageComposer::scaledToWidth(m_pixmap.toImage(), qMin(m_pixmap.width(), 2 * target.width())));
+        }
     } else {
-        const QSize area = maximumViewportSize();
-        // Never enlarge a small picture: fitting only shrinks.
-        m_factor = qMin(1.0, qMin(area.width() / double(size.width()), area.height() / double(size.height())));
+        m_reduced = QPixmap();
     }
-    m_surface->resize(qMax(1, qRound(size.width() * m_factor)), qMax(1, qRound(size.height() * m_factor)));
+    m_surface->resize(target);
     emit zoomChangedSignal(m_zoomType, m_factor);
 }
 
@@ -96,4 +127,5 @@ void ImageCanvas::resizeEvent(QResizeEvent* event)
     if (m_zoomType == Fit) {
         changeSizeByWindow();
     }
+    emit areaResized();
 }

@@ -3,6 +3,7 @@
 #include <QDebug>
 #include <QMutex>
 #include <QMutexLocker>
+#include <QPainter>
 #include <QtMath>
 
 #include <cstdlib>
@@ -290,6 +291,58 @@ QImage ImageComposer::stack(const QList<QImage>& parts, int layoutType)
         offset += across ? part.width() : part.height();
     }
     return composer.finish();
+}
+
+QImage ImageComposer::composeScaled(const QList<QImage>& copies, const QList<QSize>& sizes, int layoutType,
+                                    int xSpace, int ySpace, int column, double factor)
+{
+    if (sizes.isEmpty() || copies.size() != sizes.size() || factor <= 0.0) {
+        return QImage();
+    }
+    const ImageComposer layout(layoutType, xSpace, ySpace, column, sizes.size(), sizes.first());
+    const QSize full = layout.canvasSize();
+    if (full.isEmpty()) {
+        return QImage();
+    }
+    factor = qMin(factor, 1.0);
+    auto scaled = [factor](int v) { return qRound(v * factor); };
+    QImage out(qMax(1, scaled(full.width())), qMax(1, scaled(full.height())), QImage::Format_RGB32);
+    if (out.isNull()) {
+        return out;
+    }
+    out.fill(Qt::white);
+    QPainter painter(&out);
+    for (int i = 0; i < copies.size(); ++i) {
+        const QImage& copy = copies.at(i);
+        const QSize size = sizes.at(i);
+        QPoint at;
+        QRect source;
+        if (copy.isNull() || size.isEmpty() || !layout.partFor(i, size, &at, &source)) {
+            continue;
+        }
+        // Edges are rounded, not sizes, so that neighbouring parts meet without a seam.
+        const QRect target(QPoint(scaled(at.x()), scaled(at.y())),
+                           QPoint(scaled(at.x() + source.width()) - 1, scaled(at.y() + source.height()) - 1));
+        const double sx = double(copy.width()) / size.width();
+        const double sy = double(copy.height()) / size.height();
+        const QRect from = QRect(QPoint(qRound(source.left() * sx), qRound(source.top() * sy)),
+                                 QPoint(qRound((source.right() + 1) * sx) - 1, qRound((source.bottom() + 1) * sy) - 1))
+                               .intersected(copy.rect());
+        if (target.isEmpty() || from.isEmpty()) {
+            continue;
+        }
+        // A view of the copy's rows, not a copy of them.
+        const QImage part = from == copy.rect()
+                                ? copy
+                                : QImage(copy.constScanLine(from.top()) + qsizetype(from.left()) * (copy.depth() / 8),
+                                         from.width(), from.height(), copy.bytesPerLine(), copy.format());
+        painter.drawImage(target.topLeft(),
+                          part.size() == target.size()
+                              ? part
+                              : part.scaled(target.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    }
+    painter.end();
+    return out;
 }
 
 QImage ImageComposer::scaledToWidth(const QImage& image, int width)

@@ -41,6 +41,12 @@ public:
     // Vertical, rightwards for Horizontal), without gaps; the first part sets
     // the other side, and white fills where a part is smaller.
     static QImage stack(const QList<QImage>& parts, int layoutType);
+    // The composite of frames of full sizes `sizes`, drawn at `factor` of its
+    // full size (at most 1) from reduced copies of the frames (`copies`, any
+    // size, null to skip), for showing on screen: the full-size canvas is
+    // never made. Each frame's part is scaled smoothly from its copy.
+    static QImage composeScaled(const QList<QImage>& copies, const QList<QSize>& sizes, int layoutType, int xSpace,
+                                int ySpace, int column, double factor);
     // Nearest-neighbour scaling to `width` (height in proportion): the pixels
     // QImage::scaledToWidth gives with Qt::FastTransformation, at any height.
     static QImage scaledToWidth(const QImage& image, int width);

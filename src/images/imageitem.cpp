@@ -22,8 +22,7 @@ ImageItem::ImageItem(QWidget* parent)
     setObjectName(QStringLiteral("image_item_widget"));
     setAttribute(Qt::WA_StyledBackground, true);
 
-    // The label scales the shared full-size pixmap when it paints; it keeps only
-    // a thumbnail-sized cache, never a second full frame.
+    // The label shows the reduced copy, scaled to the item when it paints.
     m_imageLabel->setScaledContents(true);
     m_imageLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     m_imageLabel->installEventFilter(this);
@@ -68,7 +67,27 @@ ImageItem::ImageItem(QWidget* parent)
 void ImageItem::changeImageByPixmap(const QPixmap& pixmap)
 {
     m_pixmap = pixmap;
-    m_imageLabel->setPixmap(m_pixmap);
+    m_thumbnail = pixmap.width() > kThumbnailWidth
+                      ? QPixmap::fromImage(pixmap.toImage().scaledToWidth(kThumbnailWidth, Qt::SmoothTransformation))
+                      : pixmap;
+    m_mini = m_thumbnail.width() > kMiniWidth
+                 ? QPixmap::fromImage(m_thumbnail.toImage().scaledToWidth(kMiniWidth, Qt::SmoothTransformation))
+                 : m_thumbnail;
+    m_imageLabel->setPixmap(m_thumbnail);
+}
+
+void ImageItem::shareImage(const ImageItem& source)
+{
+    m_pixmap = source.m_pixmap;
+    m_thumbnail = source.m_thumbnail;
+    m_mini = source.m_mini;
+    m_imageLabel->setPixmap(m_thumbnail);
+}
+
+QImage ImageItem::thumbnail(int width) const
+{
+    // Raster pixmaps hand out their pixels without a copy.
+    return (width <= m_mini.width() ? m_mini : m_thumbnail).toImage();
 }
 
 void ImageItem::setSelect(bool select)

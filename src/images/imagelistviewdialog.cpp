@@ -71,8 +71,8 @@ void ImageListViewDialog::showImageList(const QList<ImageItem*>& items)
     const int width = AppConfig::rate(200);
     for (ImageItem* source : items) {
         auto* item = new ImageItem(m_container);
-        const QPixmap pixmap = source->getPixmap(); // shares the strip's pixels
-        item->changeImageByPixmap(pixmap);
+        const QPixmap pixmap = source->getPixmap();
+        item->shareImage(*source); // the strip's pixels, not scaled again
         item->setSelect(source->isSelect());
         const int height = pixmap.width() > 0
                                ? static_cast<int>(pixmap.height() * (width / static_cast<float>(pixmap.width())))

@@ -7,6 +7,7 @@
 #include "imageexporter.h"
 #include "imageitem.h"
 #include "imageviewdialog.h"
+#include "picturewriter.h"
 #include "propertyitem.h"
 #include "savefilebar.h"
 #include "saveimagethread.h"
@@ -21,6 +22,8 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
+#include <QtMath>
 #include <QVBoxLayout>
 
 PreviewWidget::PreviewWidget(QWidget* parent)
@@ -35,6 +38,7 @@ PreviewWidget::PreviewWidget(QWidget* parent)
     , m_saveFileBar(new SaveFileBar(false, this))
     , m_progressBar(new QProgressBar(this))
     , m_exporter(new ImageExporter(this))
+    , m_refreshTimer(new QTimer(this))
 {
     setObjectName(QStringLiteral("preview_widget"));
     setAttribute(Qt::WA_StyledBackground, true);
@@ -121,6 +125,14 @@ PreviewWidget::PreviewWidget(QWidget* parent)
                 qDebug() << "export image:" << files;
                 emit exportFinishedSignal(files, errors);
             });
+    m_refreshTimer->setSingleShot(true);
+    connect(m_refreshTimer, &QTimer::timeout, this, &PreviewWidget::refreshPicture);
+    // The fitted picture is drawn for the visible area: redraw when it changes.
+    connect(m_canvas, &ImageCanvas::areaResized, this, [this]() {
+        if (m_canvas->zoomType() == ImageCanvas::Fit && !m_compositeSize.isEmpty()) {
+            scheduleRefresh();
+        }
+    });
     updatePropertyEnabled();
     retranslate();
     showImage();
@@ -231,7 +243,7 @@ void PreviewWidget::propertyChangedHandle(int type, const QString& text)
 {
     GlobalManager* manager = GlobalManager::instance();
     manager->saveInAppSettings(propertyKey(type), text);
-    const QSize size = m_groupPixmap.isNull() ? QSize() : m_groupPixmap.size();
+    const QSize size = m_compositeSize;
     switch (type) {
     case PropertyItem::Width:
     case PropertyItem::Height: {
@@ -295,6 +307,21 @@ QImage PreviewWidget::composeImages(const QList<QPixmap>& pixmaps, int layoutTyp
     return ImageComposer::compose(images, layoutType, xSpace, ySpace, column);
 }
 
+QSize PreviewWidget::composeSize(const QList<ImageItem*>& items) const
+{
+    if (items.isEmpty() || !items.first()) {
+        return QSize();
+    }
+    return ImageComposer(m_radioType, propertyValue(PropertyItem::XSpace), propertyValue(PropertyItem::YSpace),
+                         propertyValue(PropertyItem::Column), items.size(), items.first()->getPixmap().size())
+        .canvasSize();
+}
+
+bool PreviewWidget::fullSizeWanted() const
+{
+    return m_canvas->zoomType() == ImageCanvas::Actual || (m_viewDialog && m_viewDialog->isVisible());
+}
+
 QPixmap PreviewWidget::getGroupPixmap()
 {
     const int S = propertyValue(PropertyItem::Scale);
@@ -312,28 +339,96 @@ QPixmap PreviewWidget::getGroupPixmap()
     for (ImageItem* item : items) {
         pixmaps.append(item ? item->getPixmap() : QPixmap());
     }
-    m_groupImage = composeImages(pixmaps, m_radioType, X, Y, M);
-    m_groupPixmap = QPixmap::fromImage(m_groupImage);
-    return m_groupPixmap;
+    const QPixmap composite = QPixmap::fromImage(composeImages(pixmaps, m_radioType, X, Y, M));
+    // Kept only while it is on screen at 100 %: a tall stitch is hundreds of megabytes.
+    m_groupPixmap = fullSizeWanted() ? composite : QPixmap();
+    return composite;
 }
 
 void PreviewWidget::showImage()
 {
-    const QPixmap composite = getGroupPixmap();
-    if (GlobalManager::instance()->selectedImages().isEmpty()) {
+    // The size follows the selection at once; the picture within kRefreshMs.
+    const QList<ImageItem*> items = GlobalManager::instance()->selectedImages();
+    m_compositeSize = composeSize(items);
+    if (items.isEmpty()) {
         // The stored composite survives an empty selection, but nothing is shown.
-        m_canvas->setPixmap(QPixmap());
+        m_canvas->setPicture(QSize(), QPixmap());
         m_sizeLabel->clear();
     } else {
-        m_canvas->setPixmap(composite);
-        m_sizeLabel->setText(QStringLiteral("%1x%2").arg(composite.width()).arg(composite.height()));
+        m_canvas->setPicture(m_compositeSize, m_canvas->pixmap());
+        m_sizeLabel->setText(QStringLiteral("%1x%2").arg(m_compositeSize.width()).arg(m_compositeSize.height()));
     }
-    const bool canExport = !composite.isNull() && !m_exporter->isRunning();
-    m_saveFileBar->exportButton()->setEnabled(canExport);
-    m_viewButton->setEnabled(!composite.isNull());
-    if (m_viewDialog && m_viewDialog->isVisible()) {
-        m_viewDialog->changePixmap(composite, m_viewDialog->zoomType());
+    const bool canShow = !items.isEmpty() && !m_compositeSize.isEmpty();
+    m_saveFileBar->exportButton()->setEnabled(canShow && !m_exporter->isRunning());
+    m_viewButton->setEnabled(canShow);
+    scheduleRefresh();
+}
+
+void PreviewWidget::scheduleRefresh()
+{
+    if (m_refreshTimer->isActive()) {
+        return;
     }
+    const qint64 since = m_sinceRefresh.isValid() ? m_sinceRefresh.elapsed() : qint64(kRefreshMs);
+    if (since >= kRefreshMs) {
+        refreshPicture();
+    } else {
+        m_refreshTimer->start(int(kRefreshMs - since));
+    }
+}
+
+void PreviewWidget::refreshPicture()
+{
+    m_refreshTimer->stop();
+    m_sinceRefresh.start();
+    if (!fullSizeWanted()) {
+        m_groupPixmap = QPixmap();
+    }
+    const QList<ImageItem*> items = GlobalManager::instance()->selectedImages();
+    m_compositeSize = composeSize(items);
+    if (m_compositeSize.isEmpty()) {
+        m_canvas->setPicture(QSize(), QPixmap());
+    } else if (fullSizeWanted()) {
+        // The old canvas goes first, so that the new one reuses its memory.
+        m_groupPixmap = QPixmap();
+        m_canvas->setPicture(m_compositeSize, QPixmap());
+        if (m_viewDialog && m_viewDialog->isVisible()) {
+            m_viewDialog->changePixmap(QPixmap(), m_viewDialog->zoomType());
+        }
+        const QPixmap composite = getGroupPixmap();
+        m_canvas->setPicture(composite.size(), composite);
+        if (m_viewDialog && m_viewDialog->isVisible()) {
+            m_viewDialog->changePixmap(composite, m_viewDialog->zoomType());
+        }
+    } else {
+        m_canvas->setPicture(m_compositeSize, displayPixmap(items));
+    }
+    emit previewUpdated();
+}
+
+QPixmap PreviewWidget::displayPixmap(const QList<ImageItem*>& items)
+{
+    double factor = m_canvas->fitFactor(m_compositeSize);
+    if (factor <= 0.0) {
+        // No visible area yet: something of a screen's size.
+        factor = qMin(1.0, 2048.0 / qMax(m_compositeSize.width(), m_compositeSize.height()));
+    }
+    // Each frame is drawn from its smallest reduced copy that is still as wide
+    // as the frame on screen, so the cost follows the screen, not the frames.
+    QList<QImage> copies;
+    QList<QSize> sizes;
+    copies.reserve(items.size());
+    sizes.reserve(items.size());
+    for (ImageItem* item : items) {
+        const QPixmap frame = item->getPixmap();
+        const int shownWidth = qCeil(factor * frame.width());
+        sizes.append(frame.size());
+        copies.append(shownWidth <= ImageItem::kThumbnailWidth ? item->thumbnail(shownWidth) : frame.toImage());
+    }
+    return QPixmap::fromImage(ImageComposer::composeScaled(copies, sizes, m_radioType,
+                                                           propertyValue(PropertyItem::XSpace),
+                                                           propertyValue(PropertyItem::YSpace),
+                                                           propertyValue(PropertyItem::Column), factor));
 }
 
 void PreviewWidget::scrollToEnd()
@@ -345,9 +440,9 @@ void PreviewWidget::initScaleProperty()
 {
     GlobalManager* manager = GlobalManager::instance();
     const int scale = propertyValue(PropertyItem::Scale);
-    const bool empty = manager->selectedImages().isEmpty() || m_groupPixmap.isNull();
-    const int width = empty ? 0 : static_cast<int>(static_cast<float>(m_groupPixmap.width() * scale) / 100.0f);
-    const int height = empty ? 0 : static_cast<int>(static_cast<float>(m_groupPixmap.height() * scale) / 100.0f);
+    const bool empty = manager->selectedImages().isEmpty() || m_compositeSize.isEmpty();
+    const int width = empty ? 0 : static_cast<int>(static_cast<float>(m_compositeSize.width() * scale) / 100.0f);
+    const int height = empty ? 0 : static_cast<int>(static_cast<float>(m_compositeSize.height() * scale) / 100.0f);
     propertyItem(PropertyItem::Width)->setText(QString::number(width));
     propertyItem(PropertyItem::Height)->setText(QString::number(height));
     manager->saveInAppSettings(AppConfig::PROPERTY_WIDTH, QString::number(width));
@@ -369,6 +464,20 @@ void PreviewWidget::exportButtonClickHandle()
     if (m_exporter->isRunning()) {
         return;
     }
+    // A format that cannot hold the picture is refused before anything is composed or written.
+    const QSize size = composeSize(GlobalManager::instance()->selectedImages());
+    const int scale = propertyValue(PropertyItem::Scale);
+    if (!size.isEmpty() && scale > 0) {
+        const double factor = static_cast<int>(static_cast<float>(size.width() * scale) / 100.0f)
+                              / double(size.width());
+        const QSize written(qRound(size.width() * factor), qRound(size.height() * factor));
+        const QString problem = PictureWriter::formatProblem(
+            Settings::instance()->value(AppConfig::FILE_EXTENSION).toString(), written);
+        if (!written.isEmpty() && !problem.isEmpty()) {
+            emit exportFinishedSignal({}, {problem});
+            return;
+        }
+    }
     QPixmap composite = getGroupPixmap();
     if (composite.isNull()) {
         return;
@@ -377,7 +486,6 @@ void PreviewWidget::exportButtonClickHandle()
     if (!manager->isRegister()) {
         GlobalManager::changePixmapWithWaterMark(composite, AppConfig::APP_NAME);
     }
-    const int scale = propertyValue(PropertyItem::Scale);
     const int width = static_cast<int>(static_cast<float>(composite.width() * scale) / 100.0f);
     // Scale 100 keeps the composite as it is; no resampling pass.
     const QPixmap picture = width == composite.width() ? composite
@@ -400,11 +508,13 @@ void PreviewWidget::changeZoomHandle(int zoomType)
     m_canvas->setZoomType(zoomType);
     m_fitButton->setChecked(zoomType == ImageCanvas::Fit);
     m_actualButton->setChecked(zoomType == ImageCanvas::Actual);
+    // 100 % needs the full-size composite; fitted, it is let go.
+    refreshPicture();
 }
 
 void PreviewWidget::showViewDialogHandle()
 {
-    if (m_groupPixmap.isNull() || GlobalManager::instance()->selectedImages().isEmpty()) {
+    if (m_compositeSize.isEmpty() || GlobalManager::instance()->selectedImages().isEmpty()) {
         return;
     }
     if (!m_viewDialog) {
@@ -419,11 +529,17 @@ void PreviewWidget::showViewDialogHandle()
             m_viewDialog->showProgressBar(false);
             m_viewDialog->setButtonEnabled(true);
         });
+        // Closed, the enlarged view lets its full-size picture go.
+        connect(m_viewDialog, &QDialog::finished, this, [this]() {
+            m_viewDialog->changePixmap(QPixmap(), ImageCanvas::Fit);
+            refreshPicture();
+        });
     }
-    m_viewDialog->changePixmap(m_groupPixmap, ImageCanvas::Fit);
+    m_viewDialog->changePixmap(QPixmap(), ImageCanvas::Fit);
     m_viewDialog->show();
     m_viewDialog->activateWindow();
     m_viewDialog->raise();
+    refreshPicture();
 }
 
 void PreviewWidget::quitAppFinishEvent()
@@ -441,7 +557,7 @@ void PreviewWidget::setExporting(bool exporting)
         m_progressBar->setRange(0, 0);
     }
     m_saveFileBar->setButtonEnabled(!exporting);
-    m_saveFileBar->exportButton()->setEnabled(!exporting && !m_groupPixmap.isNull()
+    m_saveFileBar->exportButton()->setEnabled(!exporting && !m_compositeSize.isEmpty()
                                               && !GlobalManager::instance()->selectedImages().isEmpty());
     for (PropertyItem* item : qAsConst(m_propertyItems)) {
         item->setEnabled(!exporting);

@@ -3,6 +3,7 @@
 
 #include "basewidget.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <QList>
 #include <QMap>
@@ -10,6 +11,7 @@
 #include <QStringList>
 
 class ImageCanvas;
+class ImageItem;
 class ImageExporter;
 class ImageViewDialog;
 class PropertyItem;
@@ -17,12 +19,19 @@ class QButtonGroup;
 class QLabel;
 class QProgressBar;
 class QPushButton;
+class QTimer;
 class SaveFileBar;
 class SaveImageThread;
 
 // The preview panel: stitches the selected frames into one picture, shows it
 // fitted or at 100 %, holds the output properties and layout choice, and
 // exports the picture.
+//
+// The full-size composite is made only for the export and while someone looks
+// at it at 100 % (the zoom or the enlarged view). Fitted, the panel shows a
+// composite drawn at the screen's size from the frames' reduced copies, and
+// while frames keep arriving it redraws at most once per kRefreshMs; the size
+// shown and the size fields always follow the selection at once.
 class PreviewWidget : public BaseWidget
 {
     Q_OBJECT
@@ -32,8 +41,12 @@ public:
 
     explicit PreviewWidget(QWidget* parent = nullptr);
 
-    // Composes the selected frames with the current properties and layout.
+    static constexpr int kRefreshMs = 250;
+
+    // Composes the selected frames at full size with the current properties and layout.
     QPixmap getGroupPixmap();
+    // The full-size composite's size for the current selection (nothing is composed).
+    QSize compositeSize() const { return m_compositeSize; }
     // The composition itself, on any list of frames. Column counts below 1 mean 1.
     static QImage composeImages(const QList<QPixmap>& pixmaps, int layoutType, int xSpace, int ySpace,
                                 int column);
@@ -43,6 +56,7 @@ public:
     PropertyItem* propertyItem(int type) const { return m_propertyItems.value(type); }
     // Integer value of a property (0 for text that is not a number).
     int propertyValue(int type) const;
+    // The full-size composite kept while it is looked at 100 % (null otherwise).
     QPixmap groupPixmap() const { return m_groupPixmap; }
 
     ImageCanvas* canvas() const { return m_canvas; }
@@ -58,6 +72,8 @@ signals:
     void showRegisterGuide();
     // files: pictures now in the output folder; errors: one text per failure.
     void exportFinishedSignal(QStringList files, QStringList errors);
+    // The picture on screen shows the current selection again.
+    void previewUpdated();
 
 public slots:
     void showImage();
@@ -85,9 +101,16 @@ private:
     static QString propertyKey(int type);
     static QString propertyTitle(int type);
     void retranslate();
+    QSize composeSize(const QList<ImageItem*>& items) const;
+    bool fullSizeWanted() const;
+    void scheduleRefresh();
+    void refreshPicture();
+    QPixmap displayPixmap(const QList<ImageItem*>& items);
 
-    QImage m_groupImage;
     QPixmap m_groupPixmap;
+    QSize m_compositeSize;
+    QTimer* m_refreshTimer = nullptr;
+    QElapsedTimer m_sinceRefresh;
     int m_radioType = Vertical;
     QMap<int, PropertyItem*> m_propertyItems;
     QButtonGroup* m_radioGroup = nullptr;

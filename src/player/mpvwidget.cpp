@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <cstring>
 #include <stdexcept>
+#include <utility>
 
 namespace {
 
@@ -143,6 +144,11 @@ MpvWidget::MpvWidget(QWidget* parent)
     NodeBuilder hwdec(QVariant(QStringLiteral("auto")));
     mpv_set_option(mpv, "hwdec", MPV_FORMAT_NODE, hwdec.node());
     mpv_observe_property(mpv, RequestObserveEof, "eof-reached", MPV_FORMAT_FLAG);
+    // The poll reports these as last observed: a blocking read would wait for
+    // the player's core, which is busy for hundreds of milliseconds while an
+    // exact seek decodes.
+    mpv_observe_property(mpv, RequestObserveDuration, "duration", MPV_FORMAT_DOUBLE);
+    mpv_observe_property(mpv, RequestObserveTimePos, "time-pos", MPV_FORMAT_DOUBLE);
     mpv_set_wakeup_callback(mpv, wakeupCallback, this);
     initTimer();
 }
@@ -337,6 +343,11 @@ void MpvWidget::mpvEventHandle(mpv_event* event)
         break;
     }
     case MPV_EVENT_PROPERTY_CHANGE:
+        if (event->reply_userdata == RequestObserveDuration || event->reply_userdata == RequestObserveTimePos) {
+            const auto* property = static_cast<mpv_event_property*>(event->data);
+            const double value = property->format == MPV_FORMAT_DOUBLE ? *static_cast<double*>(property->data) : -1.0;
+            (event->reply_userdata == RequestObserveDuration ? observedDuration : observedTimePos) = value;
+        }
         if (event->reply_userdata == RequestObserveEof) {
             const auto* property = static_cast<mpv_event_property*>(event->data);
             const bool reached = property->format == MPV_FORMAT_FLAG && *static_cast<int*>(property->data) != 0;
@@ -359,8 +370,8 @@ void MpvWidget::initTimer()
         if (playStatus == Stop) {
             return;
         }
-        emit getMpvProperty(AppConfig::MPV_DURATION, getTotalSeconds());
-        emit getMpvProperty(AppConfig::MPV_TIME_POS, getCurrentSecond());
+        emit getMpvProperty(AppConfig::MPV_DURATION, observedDuration);
+        emit getMpvProperty(AppConfig::MPV_TIME_POS, observedTimePos);
     });
 }
 
@@ -716,12 +727,13 @@ QPixmap MpvWidget::takeSnapshot(const QString& path)
         return pixmap;
     }
     QByteArray problem;
-    const QImage image = FrameGrabber::imageFromScreenshot(result, &problem);
+    QImage image = FrameGrabber::imageFromScreenshot(result, &problem);
     mpv_free_node_contents(&result);
     if (image.isNull()) {
         qDebug().noquote().nospace() << "Cannot take snapshot:" << problem;
         return pixmap;
     }
-    pixmap = QPixmap::fromImage(image);
+    // Moved, not copied: a full-HD frame is 8 MB.
+    pixmap = QPixmap::fromImage(std::move(image));
     return pixmap;
 }

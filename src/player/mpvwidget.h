@@ -48,6 +48,8 @@ public:
         RequestSubRemove = 15,
         RequestCaptureSeek = 16,
         RequestObserveEof = 20,
+        RequestObserveDuration = 21,
+        RequestObserveTimePos = 22,
     };
 
     // Throws std::runtime_error when libmpv cannot be created or initialised.
@@ -153,6 +155,8 @@ private:
     bool captureSeekPending = false;
     bool captureSeekReplied = false;
     bool eofReached = false;
+    double observedDuration = -1.0;
+    double observedTimePos = -1.0;
 };
 
 Q_DECLARE_METATYPE(MpvWidget::RestartKind)
