@@ -26,7 +26,8 @@ ExportNotice::ExportNotice(QWidget* window)
     m_label->setTextFormat(Qt::PlainText);
     m_closeButton->setText(QStringLiteral("×"));
     m_closeButton->setFlat(true);
-    m_closeButton->setStyleSheet(QStringLiteral("color:#ffffff;border:none;"));
+    m_closeButton->setStyleSheet(
+        QStringLiteral("QPushButton{color:#ffffff;background:transparent;border:none;font-size:16px;}"));
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(AppConfig::rate(12, 8, 8, 8));
     layout->setSpacing(AppConfig::rate(10));
