@@ -3,6 +3,7 @@
 #include "captionitem.h"
 #include "captionmanager.h"
 #include "captionwidget.h"
+#include "exportnotice.h"
 #include "globalmanager.h"
 #include "imageitem.h"
 #include "imageswidget.h"
@@ -12,6 +13,8 @@
 #include "mpvwidget.h"
 #include "previewwidget.h"
 #include "propertyitem.h"
+#include "savefilebar.h"
+#include "windowflows.h"
 #include "testsupport.h"
 #include "titlebar.h"
 #include "videoplaywidget.h"
@@ -157,6 +160,26 @@ private slots:
         QImageReader reader(m_output + QLatin1Char('/') + files.first());
         QCOMPARE(reader.format(), QByteArray("png"));
         QCOMPARE(reader.size(), composite.size());
+        // The window says where the picture went and offers to open the folder.
+        ExportNotice* notice = m_window->flows()->exportNotice();
+        QVERIFY(notice->isVisible());
+        QCOMPARE(notice->text(),
+                 ExportNotice::tr("Saved %n picture(s) to %1", nullptr, 1).arg(QDir::toNativeSeparators(m_output)));
+        QVERIFY(notice->openButton()->isVisible());
+
+        // A folder that cannot be written: the notice says so and where the
+        // pictures went, and the output folder shown is the real one.
+        const QString locked = m_dir + QStringLiteral("/locked");
+        QVERIFY(TestSupport::writeFile(locked, "a file, not a folder"));
+        GlobalManager::instance()->saveSettings(AppConfig::FILE_SAVE_PATH, locked);
+        preview->exportButtonClickHandle();
+        QVERIFY(exported.wait(30000));
+        const QString real = QFileInfo(exported.last().at(0).toStringList().value(0)).absolutePath();
+        QVERIFY(QDir(real) != QDir(locked));
+        QVERIFY2(notice->text().contains(locked) && notice->text().contains(QDir::toNativeSeparators(real)),
+                 qPrintable(notice->text()));
+        QCOMPARE(preview->saveFileBar()->outputDir(), real);
+        GlobalManager::instance()->saveSettings(AppConfig::FILE_SAVE_PATH, m_output);
     }
 
     void applyToAllRecapturesEveryFrame()

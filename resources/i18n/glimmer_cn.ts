@@ -369,6 +369,27 @@
     </message>
 </context>
 <context>
+    <name>ExportNotice</name>
+    <message numerus="yes">
+        <source>Saved %n picture(s) to %1</source>
+        <translation>
+            <numerusform>已将 %n 张图片保存到 %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output folder %1 cannot be written.</source>
+        <translation>无法写入输出文件夹 %1。</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+<context>
     <name>HttpManager</name>
     <message>
         <source>The extracted audio file could not be read.</source>
@@ -377,10 +398,6 @@
     <message>
         <source>The video has no sound that could be extracted.</source>
         <translation>该视频没有可提取的声音。</translation>
-    </message>
-    <message>
-        <source>The speech service could not recognise the audio.</source>
-        <translation>语音识别服务无法识别该音频。</translation>
     </message>
     <message>
         <source>The speech service could not be reached: %1</source>
@@ -566,6 +583,13 @@
     </message>
 </context>
 <context>
+    <name>MpvWidget</name>
+    <message>
+        <source>the file has no video, only sound</source>
+        <translation>该文件没有视频，只有声音</translation>
+    </message>
+</context>
+<context>
     <name>OutputFiles</name>
     <message>
         <source>%1: the file has vanished before it could be moved to the output folder.</source>
@@ -603,12 +627,12 @@
         <translation>图片太宽，无法保存为 JPG：%1×%2 像素，而 JPG 每边最多 %3 像素。请选择 PNG 或更小的缩放比例。</translation>
     </message>
     <message>
-        <source>Cannot create the file: %1</source>
-        <translation>无法创建文件：%1</translation>
+        <source>Cannot create the file in %1: %2</source>
+        <translation>无法在 %1 中创建文件：%2</translation>
     </message>
     <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>写入图片失败：%1</translation>
+        <source>Writing the picture to %1 failed: %2</source>
+        <translation>无法将图片写入 %1：%2</translation>
     </message>
 </context>
 <context>

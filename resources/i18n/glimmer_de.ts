@@ -369,6 +369,28 @@
     </message>
 </context>
 <context>
+    <name>ExportNotice</name>
+    <message numerus="yes">
+        <source>Saved %n picture(s) to %1</source>
+        <translation>
+            <numerusform>%n Bild in %1 gespeichert</numerusform>
+            <numerusform>%n Bilder in %1 gespeichert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output folder %1 cannot be written.</source>
+        <translation>In den Ausgabeordner %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>HttpManager</name>
     <message>
         <source>The extracted audio file could not be read.</source>
@@ -377,10 +399,6 @@
     <message>
         <source>The video has no sound that could be extracted.</source>
         <translation>Das Video hat keinen Ton, der extrahiert werden könnte.</translation>
-    </message>
-    <message>
-        <source>The speech service could not recognise the audio.</source>
-        <translation>Der Spracherkennungsdienst konnte den Ton nicht erkennen.</translation>
     </message>
     <message>
         <source>The speech service could not be reached: %1</source>
@@ -568,6 +586,13 @@
     </message>
 </context>
 <context>
+    <name>MpvWidget</name>
+    <message>
+        <source>the file has no video, only sound</source>
+        <translation>die Datei enthält kein Video, nur Ton</translation>
+    </message>
+</context>
+<context>
     <name>OutputFiles</name>
     <message>
         <source>%1: the file has vanished before it could be moved to the output folder.</source>
@@ -605,12 +630,12 @@
         <translation>Das Bild ist zu breit für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
     </message>
     <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Die Datei kann nicht angelegt werden: %1</translation>
+        <source>Cannot create the file in %1: %2</source>
+        <translation>Die Datei kann in %1 nicht angelegt werden: %2</translation>
     </message>
     <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Das Bild konnte nicht geschrieben werden: %1</translation>
+        <source>Writing the picture to %1 failed: %2</source>
+        <translation>Das Bild konnte nicht in %1 geschrieben werden: %2</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,28 @@
     </message>
 </context>
 <context>
+    <name>ExportNotice</name>
+    <message numerus="yes">
+        <source>Saved %n picture(s) to %1</source>
+        <translation>
+            <numerusform>Saved %n picture to %1</numerusform>
+            <numerusform>Saved %n pictures to %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output folder %1 cannot be written.</source>
+        <translation>The output folder %1 cannot be written.</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Open folder</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>HttpManager</name>
     <message>
         <source>The extracted audio file could not be read.</source>
@@ -377,10 +399,6 @@
     <message>
         <source>The video has no sound that could be extracted.</source>
         <translation>The video has no sound that could be extracted.</translation>
-    </message>
-    <message>
-        <source>The speech service could not recognise the audio.</source>
-        <translation>The speech service could not recognise the audio.</translation>
     </message>
     <message>
         <source>The speech service could not be reached: %1</source>
@@ -568,6 +586,13 @@
     </message>
 </context>
 <context>
+    <name>MpvWidget</name>
+    <message>
+        <source>the file has no video, only sound</source>
+        <translation>the file has no video, only sound</translation>
+    </message>
+</context>
+<context>
     <name>OutputFiles</name>
     <message>
         <source>%1: the file has vanished before it could be moved to the output folder.</source>
@@ -605,12 +630,12 @@
         <translation>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
     </message>
     <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Cannot create the file: %1</translation>
+        <source>Cannot create the file in %1: %2</source>
+        <translation>Cannot create the file in %1: %2</translation>
     </message>
     <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Writing the picture failed: %1</translation>
+        <source>Writing the picture to %1 failed: %2</source>
+        <translation>Writing the picture to %1 failed: %2</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,28 @@
     </message>
 </context>
 <context>
+    <name>ExportNotice</name>
+    <message numerus="yes">
+        <source>Saved %n picture(s) to %1</source>
+        <translation>
+            <numerusform>%n imagen guardada en %1</numerusform>
+            <numerusform>%n imágenes guardadas en %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output folder %1 cannot be written.</source>
+        <translation>No se puede escribir en la carpeta de salida %1.</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
     <name>HttpManager</name>
     <message>
         <source>The extracted audio file could not be read.</source>
@@ -377,10 +399,6 @@
     <message>
         <source>The video has no sound that could be extracted.</source>
         <translation>El vídeo no tiene sonido que se pueda extraer.</translation>
-    </message>
-    <message>
-        <source>The speech service could not recognise the audio.</source>
-        <translation>El servicio de reconocimiento de voz no ha podido reconocer el audio.</translation>
     </message>
     <message>
         <source>The speech service could not be reached: %1</source>
@@ -568,6 +586,13 @@
     </message>
 </context>
 <context>
+    <name>MpvWidget</name>
+    <message>
+        <source>the file has no video, only sound</source>
+        <translation>el archivo no tiene vídeo, solo sonido</translation>
+    </message>
+</context>
+<context>
     <name>OutputFiles</name>
     <message>
         <source>%1: the file has vanished before it could be moved to the output folder.</source>
@@ -605,12 +630,12 @@
         <translation>La imagen es demasiado ancha para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
     </message>
     <message>
-        <source>Cannot create the file: %1</source>
-        <translation>No se puede crear el archivo: %1</translation>
+        <source>Cannot create the file in %1: %2</source>
+        <translation>No se puede crear el archivo en %1: %2</translation>
     </message>
     <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>No se ha podido guardar la imagen: %1</translation>
+        <source>Writing the picture to %1 failed: %2</source>
+        <translation>No se pudo escribir la imagen en %1: %2</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,28 @@
     </message>
 </context>
 <context>
+    <name>ExportNotice</name>
+    <message numerus="yes">
+        <source>Saved %n picture(s) to %1</source>
+        <translation>
+            <numerusform>%n image enregistrée dans %1</numerusform>
+            <numerusform>%n images enregistrées dans %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output folder %1 cannot be written.</source>
+        <translation>Impossible d&apos;écrire dans le dossier de sortie %1.</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+<context>
     <name>HttpManager</name>
     <message>
         <source>The extracted audio file could not be read.</source>
@@ -377,10 +399,6 @@
     <message>
         <source>The video has no sound that could be extracted.</source>
         <translation>La vidéo ne contient aucun son à extraire.</translation>
-    </message>
-    <message>
-        <source>The speech service could not recognise the audio.</source>
-        <translation>Le service de reconnaissance vocale n’a pas pu reconnaître l’audio.</translation>
     </message>
     <message>
         <source>The speech service could not be reached: %1</source>
@@ -568,6 +586,13 @@
     </message>
 </context>
 <context>
+    <name>MpvWidget</name>
+    <message>
+        <source>the file has no video, only sound</source>
+        <translation>le fichier ne contient pas de vidéo, seulement du son</translation>
+    </message>
+</context>
+<context>
     <name>OutputFiles</name>
     <message>
         <source>%1: the file has vanished before it could be moved to the output folder.</source>
@@ -605,12 +630,12 @@
         <translation>L’image est trop large pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
     </message>
     <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossible de créer le fichier : %1</translation>
+        <source>Cannot create the file in %1: %2</source>
+        <translation>Impossible de créer le fichier dans %1 : %2</translation>
     </message>
     <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>L’écriture de l’image a échoué : %1</translation>
+        <source>Writing the picture to %1 failed: %2</source>
+        <translation>L&apos;écriture de l&apos;image dans %1 a échoué : %2</translation>
     </message>
 </context>
 <context>

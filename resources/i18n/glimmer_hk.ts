@@ -369,6 +369,27 @@
     </message>
 </context>
 <context>
+    <name>ExportNotice</name>
+    <message numerus="yes">
+        <source>Saved %n picture(s) to %1</source>
+        <translation>
+            <numerusform>已將 %n 張圖片儲存到 %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output folder %1 cannot be written.</source>
+        <translation>無法寫入輸出資料夾 %1。</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>開啟資料夾</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+</context>
+<context>
     <name>HttpManager</name>
     <message>
         <source>The extracted audio file could not be read.</source>
@@ -377,10 +398,6 @@
     <message>
         <source>The video has no sound that could be extracted.</source>
         <translation>此影片沒有可擷取的聲音。</translation>
-    </message>
-    <message>
-        <source>The speech service could not recognise the audio.</source>
-        <translation>語音辨識服務無法辨識此音訊。</translation>
     </message>
     <message>
         <source>The speech service could not be reached: %1</source>
@@ -566,6 +583,13 @@
     </message>
 </context>
 <context>
+    <name>MpvWidget</name>
+    <message>
+        <source>the file has no video, only sound</source>
+        <translation>該檔案沒有影片，只有聲音</translation>
+    </message>
+</context>
+<context>
     <name>OutputFiles</name>
     <message>
         <source>%1: the file has vanished before it could be moved to the output folder.</source>
@@ -603,12 +627,12 @@
         <translation>圖片太寬，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
     </message>
     <message>
-        <source>Cannot create the file: %1</source>
-        <translation>無法建立檔案：%1</translation>
+        <source>Cannot create the file in %1: %2</source>
+        <translation>無法在 %1 中建立檔案：%2</translation>
     </message>
     <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>寫入圖片失敗：%1</translation>
+        <source>Writing the picture to %1 failed: %2</source>
+        <translation>無法將圖片寫入 %1：%2</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,28 @@
     </message>
 </context>
 <context>
+    <name>ExportNotice</name>
+    <message numerus="yes">
+        <source>Saved %n picture(s) to %1</source>
+        <translation>
+            <numerusform>%n immagine salvata in %1</numerusform>
+            <numerusform>%n immagini salvate in %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output folder %1 cannot be written.</source>
+        <translation>Impossibile scrivere nella cartella di output %1.</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Apri cartella</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+</context>
+<context>
     <name>HttpManager</name>
     <message>
         <source>The extracted audio file could not be read.</source>
@@ -377,10 +399,6 @@
     <message>
         <source>The video has no sound that could be extracted.</source>
         <translation>Il video non contiene audio da estrarre.</translation>
-    </message>
-    <message>
-        <source>The speech service could not recognise the audio.</source>
-        <translation>Il servizio di riconoscimento vocale non è riuscito a riconoscere l’audio.</translation>
     </message>
     <message>
         <source>The speech service could not be reached: %1</source>
@@ -568,6 +586,13 @@
     </message>
 </context>
 <context>
+    <name>MpvWidget</name>
+    <message>
+        <source>the file has no video, only sound</source>
+        <translation>il file non contiene video, solo audio</translation>
+    </message>
+</context>
+<context>
     <name>OutputFiles</name>
     <message>
         <source>%1: the file has vanished before it could be moved to the output folder.</source>
@@ -605,12 +630,12 @@
         <translation>L’immagine è troppo larga per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
     </message>
     <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossibile creare il file: %1</translation>
+        <source>Cannot create the file in %1: %2</source>
+        <translation>Impossibile creare il file in %1: %2</translation>
     </message>
     <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Scrittura dell’immagine non riuscita: %1</translation>
+        <source>Writing the picture to %1 failed: %2</source>
+        <translation>Scrittura dell&apos;immagine in %1 non riuscita: %2</translation>
     </message>
 </context>
 <context>

@@ -369,6 +369,27 @@
     </message>
 </context>
 <context>
+    <name>ExportNotice</name>
+    <message numerus="yes">
+        <source>Saved %n picture(s) to %1</source>
+        <translation>
+            <numerusform>%n 枚の画像を %1 に保存しました</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output folder %1 cannot be written.</source>
+        <translation>出力フォルダー %1 に書き込めません。</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+</context>
+<context>
     <name>HttpManager</name>
     <message>
         <source>The extracted audio file could not be read.</source>
@@ -377,10 +398,6 @@
     <message>
         <source>The video has no sound that could be extracted.</source>
         <translation>この動画には抽出できる音声がありません。</translation>
-    </message>
-    <message>
-        <source>The speech service could not recognise the audio.</source>
-        <translation>音声認識サービスが音声を認識できませんでした。</translation>
     </message>
     <message>
         <source>The speech service could not be reached: %1</source>
@@ -566,6 +583,13 @@
     </message>
 </context>
 <context>
+    <name>MpvWidget</name>
+    <message>
+        <source>the file has no video, only sound</source>
+        <translation>このファイルには映像がなく、音声のみです</translation>
+    </message>
+</context>
+<context>
     <name>OutputFiles</name>
     <message>
         <source>%1: the file has vanished before it could be moved to the output folder.</source>
@@ -603,12 +627,12 @@
         <translation>画像が横に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
     </message>
     <message>
-        <source>Cannot create the file: %1</source>
-        <translation>ファイルを作成できません：%1</translation>
+        <source>Cannot create the file in %1: %2</source>
+        <translation>%1 にファイルを作成できません: %2</translation>
     </message>
     <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>画像の書き込みに失敗しました：%1</translation>
+        <source>Writing the picture to %1 failed: %2</source>
+        <translation>%1 への画像の書き込みに失敗しました: %2</translation>
     </message>
 </context>
 <context>

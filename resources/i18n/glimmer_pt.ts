@@ -369,6 +369,28 @@
     </message>
 </context>
 <context>
+    <name>ExportNotice</name>
+    <message numerus="yes">
+        <source>Saved %n picture(s) to %1</source>
+        <translation>
+            <numerusform>%n imagem guardada em %1</numerusform>
+            <numerusform>%n imagens guardadas em %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The output folder %1 cannot be written.</source>
+        <translation>Não é possível gravar na pasta de saída %1.</translation>
+    </message>
+    <message>
+        <source>Open folder</source>
+        <translation>Abrir pasta</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+</context>
+<context>
     <name>HttpManager</name>
     <message>
         <source>The extracted audio file could not be read.</source>
@@ -377,10 +399,6 @@
     <message>
         <source>The video has no sound that could be extracted.</source>
         <translation>O vídeo não tem som que possa ser extraído.</translation>
-    </message>
-    <message>
-        <source>The speech service could not recognise the audio.</source>
-        <translation>O serviço de reconhecimento de fala não conseguiu reconhecer o áudio.</translation>
     </message>
     <message>
         <source>The speech service could not be reached: %1</source>
@@ -568,6 +586,13 @@
     </message>
 </context>
 <context>
+    <name>MpvWidget</name>
+    <message>
+        <source>the file has no video, only sound</source>
+        <translation>o ficheiro não tem vídeo, apenas som</translation>
+    </message>
+</context>
+<context>
     <name>OutputFiles</name>
     <message>
         <source>%1: the file has vanished before it could be moved to the output folder.</source>
@@ -605,12 +630,12 @@
         <translation>A imagem é larga demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
     </message>
     <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Não é possível criar o arquivo: %1</translation>
+        <source>Cannot create the file in %1: %2</source>
+        <translation>Não é possível criar o ficheiro em %1: %2</translation>
     </message>
     <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Falha ao gravar a imagem: %1</translation>
+        <source>Writing the picture to %1 failed: %2</source>
+        <translation>Falha ao gravar a imagem em %1: %2</translation>
     </message>
 </context>
 <context>

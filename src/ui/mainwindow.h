@@ -61,6 +61,7 @@ public:
     MessageDialog* messageDialog() const { return m_messageDialog; }
     LoadingDialog* loadingDialog() const { return m_loadingDialog; }
     CaptureController* captureController() const;
+    WindowFlows* flows() const { return m_flows; }
 
 public slots:
     void globalEventHandle(QString eventName, QVariant value);

@@ -5,6 +5,9 @@
 #include "captioneditor.h"
 #include "captionfileflow.h"
 #include "captionwidget.h"
+#include "appconfig.h"
+#include "exportnotice.h"
+#include "settings.h"
 #include "capturecontroller.h"
 #include "globalmanager.h"
 #include "imageexporter.h"
@@ -18,6 +21,8 @@
 #include "videoplaywidget.h"
 
 #include <QDebug>
+#include <QDir>
+#include <QFileInfo>
 #include <QPushButton>
 
 WindowFlows::WindowFlows(const Parts& parts)
@@ -112,9 +117,17 @@ void WindowFlows::initCaptionFiles()
 void WindowFlows::initExports()
 {
     // One message for every failure of an export, from either panel.
+    m_notice = new ExportNotice(m_parts.window);
     auto finished = [this](const QStringList& files, const QStringList& errors) {
         if (!errors.isEmpty()) {
             showMessage(ImageExporter::summary(files, errors), errors.join(QLatin1Char('\n')));
+        }
+        const QString chosen = Settings::instance()->value(AppConfig::FILE_SAVE_PATH).toString();
+        m_notice->showExport(files, chosen);
+        // The chosen folder could not take the pictures: the field shows where they went.
+        if (!files.isEmpty() && QDir(QFileInfo(files.first()).absolutePath()) != QDir(chosen)) {
+            GlobalManager::instance()->saveSettings(AppConfig::FILE_SAVE_PATH,
+                                                    QFileInfo(files.first()).absolutePath());
         }
     };
     ImagesWidget* strip = m_parts.strip;

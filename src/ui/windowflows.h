@@ -9,6 +9,7 @@ class CaptionEditor;
 class CaptionFileFlow;
 class CaptionWidget;
 class CaptureController;
+class ExportNotice;
 class ImagesWidget;
 class LoadingDialog;
 class MessageDialog;
@@ -40,6 +41,7 @@ public:
     AutoCaptionFlow* autoCaptions() const { return m_autoCaptions; }
     CaptionFileFlow* captionFiles() const { return m_captionFiles; }
     CaptionEditor* editor() const { return m_editor; }
+    ExportNotice* exportNotice() const { return m_notice; }
 
     void showMessage(const QString& title, const QString& message);
 
@@ -60,6 +62,7 @@ private:
     CaptionEditor* m_editor = nullptr;
     AutoCaptionFlow* m_autoCaptions = nullptr;
     CaptionFileFlow* m_captionFiles = nullptr;
+    ExportNotice* m_notice = nullptr;
 };
 
 #endif // WINDOWFLOWS_H
