@@ -326,7 +326,7 @@ void PreviewWidget::showImage()
         m_sizeLabel->clear();
     } else {
         m_canvas->setPixmap(composite);
-        m_sizeLabel->setText(QStringLiteral("%1x%2").arg(composite.width()).arg(composite.height()));
+        m_sizeLabel->setText(QStringLiteral("%1x%2").arg(QString::number(composite.width()), QString::number(composite.height())));
     }
     const bool canExport = !composite.isNull() && !m_exporter->isRunning();
     m_saveFileBar->exportButton()->setEnabled(canExport);
