@@ -76,6 +76,33 @@
         <source>%1 holds no captions that can be shown.</source>
         <translation>%1 non contiene sottotitoli visualizzabili.</translation>
     </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>Nessun sottotitolo caricato</translation>
+    </message>
+    <message>
+        <source>Reading the captions of %1…</source>
+        <translation>Lettura dei sottotitoli di %1…</translation>
+    </message>
+    <message>
+        <source>Converting %1…</source>
+        <translation>Conversione di %1…</translation>
+    </message>
+    <message>
+        <source>Some captions were not loaded</source>
+        <translation>Alcuni sottotitoli non sono stati caricati</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 captions in %3 could not be read; the other %4 were loaded.</source>
+        <translation>Non è stato possibile leggere %1 dei %2 sottotitoli di %3; gli altri %4 sono stati caricati.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileReader</name>
+    <message>
+        <source>&quot;%1&quot; holds more than %2 captions. To keep memory in bounds, at most %2 captions are loaded from one file: split it into parts.</source>
+        <translation>&quot;%1&quot; contiene più di %2 sottotitoli. Per non esaurire la memoria, da un file si caricano al massimo %2 sottotitoli: dividilo in parti.</translation>
+    </message>
 </context>
 <context>
     <name>CaptionItem</name>
@@ -125,18 +152,6 @@
     <message>
         <source>No subtitle file was chosen.</source>
         <translation>Non è stato scelto alcun file di sottotitoli.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
-        <translation>&quot;%1&quot; è una cartella, non un file di sottotitoli.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is too large to be a subtitle file.</source>
-        <translation>&quot;%1&quot; è troppo grande per essere un file di sottotitoli.</translation>
-    </message>
-    <message>
-        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
-        <translation>Impossibile aprire il file di sottotitoli &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>No captions were found in &quot;%1&quot;.</source>
@@ -353,9 +368,6 @@
     </message>
 </context>
 <context>
-    <name>GlobalManager</name>
-</context>
-<context>
     <name>HttpManager</name>
     <message>
         <source>The extracted audio file could not be read.</source>
@@ -566,6 +578,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>L’immagine è vuota.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Questo sistema non può salvare immagini %1. Scegli PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo alta per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo larga per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo alta per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo larga per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Impossibile creare il file: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Scrittura dell’immagine non riuscita: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +665,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>La scala è 0: non c’è alcuna immagine da esportare.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>L’immagine è vuota.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Questo sistema non può salvare immagini %1. Scegli PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo alta per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo larga per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo alta per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo larga per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossibile creare il file: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Scrittura dell’immagine non riuscita: %1</translation>
     </message>
 </context>
 <context>
@@ -782,6 +794,25 @@
     </message>
 </context>
 <context>
+    <name>SubtitleFile</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
+        <translation>&quot;%1&quot; è una cartella, non un file di sottotitoli.</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
+        <translation>Impossibile aprire il file di sottotitoli &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinary file (a device, pipe or socket): it cannot be read as subtitles.</source>
+        <translation>&quot;%1&quot; non è un file normale (dispositivo, pipe o socket): non può essere letto come sottotitoli.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be a subtitle file: subtitle files of up to %2 MB can be loaded.</source>
+        <translation>&quot;%1&quot; è troppo grande per essere un file di sottotitoli: si possono caricare file di sottotitoli fino a %2 MB.</translation>
+    </message>
+</context>
+<context>
     <name>TitleBar</name>
     <message>
         <source>Open video</source>
@@ -884,10 +915,6 @@
     <message>
         <source>No video</source>
         <translation>Nessun video</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>Nessun sottotitolo caricato</translation>
     </message>
     <message>
         <source>Open a video first, then generate its captions.</source>
