@@ -4,4 +4,4 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/setup.sh
 cd build
-xvfb-run -a -s "-screen 0 1920x1080x24" ctest --output-on-failure --timeout 900 -j2
+xvfb-run -a -s "-screen 0 1920x1080x24" ctest --output-on-failure --timeout 900 -j"$(nproc)"

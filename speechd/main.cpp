@@ -232,7 +232,7 @@ int main(int argc, char* argv[])
                         AudioDecoder(findFfmpeg(parser.value(ffmpegOption)).toStdString(),
                                      static_cast<int>(decodeTimeout), static_cast<int>(maxDuration)));
     if (!server.bind()) {
-        return fail(QStringLiteral("cannot listen on %1:%2 (address in use?)").arg(parser.value(hostOption)).arg(port));
+        return fail(QStringLiteral("cannot listen on %1:%2 (address in use?)").arg(parser.value(hostOption), QString::number(port)));
     }
     // The one line on standard output: where the service listens.
     std::printf("glimmer-speechd listening on http://%s:%d (%s)\n", options.host.c_str(), server.port(),

@@ -204,7 +204,7 @@ private slots:
         QCOMPARE(readText(m->getTempAssFilePath()),
                  kHeader + kDefaultStyle + kEventsHeader
                      + QStringLiteral("Dialogue: 0,0:0:1.0,0:0:4.99,Default,,0,0,0,,Hello, world\n"
-                                      "Dialogue: 0,0:0:5.0,0:0:6.3,Default,,0,0,0,,costs Default now\n"
+                                      "Dialogue: 0,0:0:5.0,0:0:6.3,Default,,0,0,0,,costs %4 now\n"
                                       "Dialogue: 0,0:0:7.0,0:0:7.99,Default,,0,0,0,,日本語のテキスト\n"
                                       "Dialogue: 0,0:0:8.0,0:0:9.0,Default,,0,0,0,,last\n"));
     }

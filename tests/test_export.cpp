@@ -2,6 +2,8 @@
 // collision-free names, fallbacks that lose nothing, failures that reach the
 // user, and the reveal in the file manager over a private session bus.
 #include "appconfig.h"
+#include "captioninfo.h"
+#include "captionmanager.h"
 #include "globalmanager.h"
 #include "imagecanvas.h"
 #include "imageexporter.h"
@@ -79,6 +81,8 @@ private slots:
     void watermarkOnTallPicture();
     void writeFailureHasReason();
     void revealFallsBackToFolderQuietly();
+    void percentSignsStayAsWritten_data();
+    void percentSignsStayAsWritten();
 
 private:
     QStringList waitFinished(QSignalSpy& spy, QStringList* errors = nullptr);
@@ -531,6 +535,59 @@ void TestExport::revealFallsBackToFolderQuietly()
     QCOMPARE(m_urls.urls.first(), QUrl::fromLocalFile(QFileInfo(file).absolutePath()));
     QCOMPARE(m_fileManager.calls.size(), 0);
     QVERIFY(bus.registerService(QStringLiteral("org.freedesktop.FileManager1")));
+}
+
+void TestExport::percentSignsStayAsWritten_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::newRow("%1..%9") << QStringLiteral("Up 5%1 today %2%3%4%5%6%7%8%9");
+    QTest::newRow("%%") << QStringLiteral("100%% sure %%1");
+    QTest::newRow("%L1") << QStringLiteral("%L1 and %L2");
+    QTest::newRow("url-encoded") << QStringLiteral("Talk%2C%20part%201");
+}
+
+void TestExport::percentSignsStayAsWritten()
+{
+    // Text and names holding placeholders reach the caption file and the
+    // exported file names exactly as written.
+    QFETCH(QString, text);
+    GlobalManager* manager = GlobalManager::instance();
+    CaptionManager* captions = CaptionManager::instance();
+    const QFileInfo holiday = manager->getCurrentFile();
+    manager->setCurrentFile(QFileInfo(m_work + QStringLiteral("/videos/") + text + QStringLiteral(".mp4")));
+    auto restore = qScopeGuard([&] { manager->setCurrentFile(holiday); });
+
+    QVERIFY(captions->createCaptions(TestSupport::utterances({{1000, 2000, text}, {3000, 4000, QStringLiteral("b")}}),
+                                     true));
+    const QString ass = captions->getTempAssFilePath();
+    QVERIFY2(QFileInfo(ass).fileName().startsWith(text + QLatin1Char('-')), qPrintable(ass));
+    QVERIFY2(QFileInfo(captions->getCaptionPath()).fileName().startsWith(text + QLatin1Char('-')),
+             qPrintable(captions->getCaptionPath()));
+    QVERIFY(readFile(captions->getCaptionPath()).contains(text.toUtf8()));
+    QVERIFY2(readFile(ass).contains(QStringLiteral("Dialogue: 0,0:0:1.0,0:0:2.0,Default,,0,0,0,,%1\n").arg(text).toUtf8()),
+             readFile(ass).constData());
+
+    // An edit of one caption, then the same style applied to all.
+    CaptionInfo* first = captions->getCaptionDataByIndex(1);
+    first->captionEdit->text = text + QStringLiteral(" %3");
+    first->captionEdit->fontSize = 24;
+    captions->changeCaptionNew(first, false);
+    QVERIFY2(readFile(ass).contains(("Dialogue: 0,0:0:1.0,0:0:2.0,Default,,0,0,0,,{\\fs24\\bord1\\shad1\\pos(192,268)}"
+                                     + text + QStringLiteral(" %3\n")).toUtf8()),
+             readFile(ass).constData());
+    captions->changeCaptionNew(first, true);
+    QVERIFY2(readFile(ass).contains(("Dialogue: 0,0:0:1.0,0:0:2.0,StyleAll,,0,0,0,,{\\fs24\\bord1\\shad1\\pos(192,268)}"
+                                     + text + QStringLiteral(" %3\n")).toUtf8()),
+             readFile(ass).constData());
+    captions->clearCaptions();
+
+    // Exported twice: the second file takes the next free name.
+    m_strip->addImage(capture(solidFrame(Qt::red), 1 / 25.0, 1));
+    QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
+    m_strip->exportSelectedHandle(QString());
+    QCOMPARE(waitFinished(spy), QStringList{m_out + QLatin1Char('/') + text + QStringLiteral("_1.png")});
+    m_strip->exportSelectedHandle(QString());
+    QCOMPARE(waitFinished(spy), QStringList{m_out + QLatin1Char('/') + text + QStringLiteral("_1(1).png")});
 }
 
 QTEST_MAIN(TestExport)

@@ -1,5 +1,6 @@
 #include "appconfig.h"
 #include "captioninfo.h"
+#include "captionfileflow.h"
 #include "captionitem.h"
 #include "captionmanager.h"
 #include "captionwidget.h"
@@ -23,6 +24,8 @@
 #include <QImageReader>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTime>
+#include <QTimer>
 #include <QtTest>
 
 using TestSupport::meanDifference;
@@ -37,6 +40,8 @@ private:
     QString m_srt;
     QString m_output;
     MainWindow* m_window = nullptr;
+
+    CaptionFileFlow* flow() const { return m_window->findChild<CaptionFileFlow*>(); }
 
     // The frame ffmpeg decodes at a time, converted the way mpv converts HD video.
     QImage referenceFrame(double seconds, bool withSubtitles = false)
@@ -99,7 +104,12 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(CaptionManager::instance()->getTempAssFilePath()), 5000);
 
         QSignalSpy replies(m_window->videoPlayWidget(), &VideoPlayWidget::captureEventSignal);
+        QSignalSpy loaded(flow(), &CaptionFileFlow::finished);
         m_window->loadCaption(m_srt);
+        QVERIFY(loaded.wait(30000));
+        // The player's answer to this load, not to the empty file's earlier one.
+        QSignalSpy track(m_window->videoPlayWidget(), &VideoPlayWidget::subtitleTrackAdded);
+        QVERIFY(track.wait(10000));
         QCOMPARE(CaptionManager::instance()->getCaptions().size(), 4);
         QVERIFY(m_window->captionWidget()->isVisible());
         QCOMPARE(m_window->captionWidget()->items().size(), 4);
@@ -217,7 +227,7 @@ private slots:
         const QString empty = m_dir + QStringLiteral("/empty.srt");
         QVERIFY(TestSupport::writeFile(empty, "no captions here\n"));
         m_window->loadCaption(empty);
-        QVERIFY(m_window->messageDialog()->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(m_window->messageDialog()->isVisible(), 30000);
         QVERIFY(m_window->messageDialog()->message().contains(QStringLiteral("empty.srt")));
         m_window->messageDialog()->accept();
 
@@ -232,6 +242,79 @@ private slots:
             stops += args.at(0).toString() == AppConfig::STOP_AI_CAPTION ? 1 : 0;
         }
         QCOMPARE(stops, 1);
+    }
+
+    void lostCaptionsAreReported()
+    {
+        // An ffmpeg that drops captions and still exits 0 (as it does with text it cannot read).
+        const QString bin = TestSupport::makeWorkDir(QStringLiteral("fakebin"));
+        QVERIFY(TestSupport::writeFile(bin + QStringLiteral("/ffmpeg"),
+                                       "#!/bin/sh\nfor last; do :; done\n"
+                                       "printf '[Events]\\nDialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,kept\\n'"
+                                       " > \"$last\"\n"));
+        QVERIFY(QFile::setPermissions(bin + QStringLiteral("/ffmpeg"), QFileDevice::ReadOwner | QFileDevice::ExeOwner));
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", bin.toLocal8Bit() + ':' + path);
+        QSignalSpy loaded(flow(), &CaptionFileFlow::finished);
+        m_window->loadCaption(m_srt);
+        QVERIFY(loaded.wait(30000));
+        qputenv("PATH", path);
+        QCOMPARE(CaptionManager::instance()->getCaptions().size(), 1);
+        QVERIFY(m_window->messageDialog()->isVisible());
+        const QString message = m_window->messageDialog()->message();
+        QVERIFY2(message.contains(QStringLiteral("3 of the 4 captions in holiday.srt")), qPrintable(message));
+        m_window->messageDialog()->accept();
+    }
+
+    void largeSubtitlesLoadWithoutBlocking()
+    {
+        QByteArray srt;
+        for (int i = 0; i < 5000; ++i) {
+            const QByteArray time = QTime(0, 0).addMSecs(i * 1000).toString(QStringLiteral("hh:mm:ss,zzz")).toLatin1();
+            srt += QByteArray::number(i + 1) + "\n" + time + " --> " + time.left(9) + "500\nline "
+                   + QByteArray::number(i + 1) + "\n\n";
+        }
+        const QString big = m_dir + QStringLiteral("/big.srt");
+        QVERIFY(TestSupport::writeFile(big, srt));
+        CaptionManager* captions = CaptionManager::instance();
+        QSignalSpy progress(flow(), &CaptionFileFlow::progress);
+        QSignalSpy done(flow(), &CaptionFileFlow::finished);
+        QSignalSpy cancelled(flow(), &CaptionFileFlow::cancelled);
+
+        // Cancelled: the captions stay as they were.
+        const QList<CaptionInfo*> before = captions->getCaptions();
+        m_window->loadCaption(big);
+        QVERIFY(flow()->isLoading());
+        QVERIFY(m_window->loadingDialog()->isVisible());
+        m_window->loadingDialog()->cancelButton()->click();
+        QVERIFY(cancelled.wait(30000));
+        QCOMPARE(captions->getCaptions(), before);
+        QCOMPARE(done.count(), 0);
+        QVERIFY(!m_window->loadingDialog()->isVisible());
+
+        // Loaded again and again: the window handles events meanwhile, old records go.
+        int ticks = 0;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, [&ticks]() { ++ticks; });
+        timer.start(5);
+        for (int round = 0; round < 3; ++round) {
+            ticks = 0;
+            m_window->loadCaption(big);
+            QVERIFY(flow()->isLoading());
+            QVERIFY(done.wait(60000));
+            QVERIFY(ticks > 0);
+            QCOMPARE(captions->getCaptions().size(), 5000);
+            QCOMPARE(captions->getCaptions().last()->text, QStringLiteral("line 5000"));
+            QCOMPARE(CaptionInfo::liveCount(), 5000);
+            QVERIFY(!m_window->loadingDialog()->isVisible());
+        }
+        QVERIFY(!m_window->messageDialog()->isVisible());
+        bool percentShown = false;
+        for (const QList<QVariant>& args : qAsConst(progress)) {
+            QVERIFY(args.at(0).toString().contains(QStringLiteral("big.srt")));
+            percentShown = percentShown || args.at(1).toInt() >= 0;
+        }
+        QVERIFY(percentShown);
     }
 
     void captionPanelRestoresTheWidth()

@@ -2,14 +2,20 @@
 // real ffmpeg, and input from the wild: wrong encodings, odd line ends,
 // truncated lines, binary junk, huge files, paths that are not files.
 #include "appconfig.h"
+#include "captioninfo.h"
+#include "assreader.h"
+#include "captionfilereader.h"
 #include "captionmanager.h"
 #include "globalmanager.h"
 #include "testsupport.h"
 
 #include <QDir>
+#include <QFile>
 #include <QRandomGenerator>
 #include <QTextCodec>
 #include <QtTest>
+
+#include <sys/stat.h>
 
 namespace {
 const QByteArray kStyleSection
@@ -359,6 +365,126 @@ private slots:
 
         QVERIFY(GlobalManager::instance()->srtToAss(m_dir + QStringLiteral("/absent.srt")).isEmpty());
         QVERIFY(m->lastError().contains(QStringLiteral("absent.srt")));
+    }
+
+    void specialFilesAreRefused_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<QString>("reason");
+        for (const QString& suffix : {QStringLiteral("ass"), QStringLiteral("srt")}) {
+            QTest::newRow(qPrintable(QStringLiteral("fifo ") + suffix)) << "fifo" << suffix << "not an ordinary file";
+            QTest::newRow(qPrintable(QStringLiteral("/dev/zero ") + suffix)) << "zero" << suffix << "not an ordinary file";
+            QTest::newRow(qPrintable(QStringLiteral("65 MB ") + suffix)) << "large" << suffix << "up to 64 MB";
+            QTest::newRow(qPrintable(QStringLiteral("link to a file ") + suffix)) << "link" << suffix << "";
+        }
+    }
+
+    void specialFilesAreRefused()
+    {
+        // Neither blocks nor reads without end; the user learns why.
+        QFETCH(QString, kind);
+        QFETCH(QString, suffix);
+        QFETCH(QString, reason);
+        const QString path = m_dir + QStringLiteral("/special-%1.%2").arg(kind, suffix);
+        QFile::remove(path);
+        if (kind == QLatin1String("fifo")) {
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        } else if (kind == QLatin1String("zero")) {
+            QVERIFY(QFile::link(QStringLiteral("/dev/zero"), path));
+        } else if (kind == QLatin1String("large")) {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            QVERIFY(file.resize(65 * 1024 * 1024)); // sparse: no real disk space
+        } else {
+            const QString target = m_dir + QStringLiteral("/target.") + suffix;
+            QVERIFY(TestSupport::writeFile(
+                target, suffix == QLatin1String("srt") ? srtText({QStringLiteral("through a link")}).toUtf8()
+                                                       : assFile("Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,"
+                                                                 "through a link\n")));
+            QVERIFY(QFile::link(target, path));
+        }
+        QString ass = path;
+        if (suffix == QLatin1String("srt")) {
+            ass = GlobalManager::instance()->srtToAss(path);
+            QCOMPARE(ass.isEmpty(), !reason.isEmpty());
+        }
+        if (!ass.isEmpty()) {
+            QCOMPARE(m->loadCaptionFile(ass), reason.isEmpty() ? 0 : 1);
+        }
+        if (reason.isEmpty()) {
+            QCOMPARE(captionTexts(), QStringList{QStringLiteral("through a link")});
+            QVERIFY2(m->lastError().isEmpty(), qPrintable(m->lastError()));
+        } else {
+            QVERIFY2(m->lastError().contains(QFileInfo(path).fileName()) && m->lastError().contains(reason),
+                     qPrintable(m->lastError()));
+        }
+    }
+
+    void eventLimitAndCancel()
+    {
+        const QString path = m_dir + QStringLiteral("/four.ass");
+        QByteArray events;
+        for (int i = 1; i <= 4; ++i) {
+            events += "Dialogue: 0,0:00:0" + QByteArray::number(i) + ".00,0:00:05.00,Default,,0,0,0,,line\n";
+        }
+        QVERIFY(TestSupport::writeFile(path, assFile(events)));
+        const int live = CaptionInfo::liveCount();
+        AssReader::Control control;
+        control.maxEvents = 3;
+        {
+            // One past the limit: refused, the reason names the file and the limit, nothing is kept.
+            const CaptionFileContent content = CaptionFileReader::read(path, control);
+            QVERIFY(!content.readable);
+            QVERIFY2(content.error.contains(QStringLiteral("four.ass")) && content.error.contains(QStringLiteral(" 3 ")),
+                     qPrintable(content.error));
+            QVERIFY(content.captions.isEmpty() && content.styles.isEmpty() && content.lines.isEmpty());
+            QCOMPARE(CaptionInfo::liveCount(), live);
+        }
+        control.maxEvents = 4;
+        QCOMPARE(CaptionFileReader::read(path, control).captions.size(), 4);
+        QCOMPARE(CaptionInfo::liveCount(), live);
+
+        // Stopped from the progress report: no records either.
+        control.progress = [](int) { return false; };
+        const CaptionFileContent stopped = CaptionFileReader::read(path, control);
+        QVERIFY(stopped.cancelled && !stopped.readable && stopped.captions.isEmpty());
+        QCOMPARE(CaptionInfo::liveCount(), live);
+        QCOMPARE(AssReader::kMaxEvents, 250000);
+    }
+
+    void wideUnicodeAndNulInSrt_data()
+    {
+        QTest::addColumn<QByteArray>("codec");
+        QTest::addColumn<QByteArray>("prefix");
+        QTest::newRow("utf-16le bom") << QByteArray("UTF-16LE") << QByteArray("\xFF\xFE");
+        QTest::newRow("utf-16be bom") << QByteArray("UTF-16BE") << QByteArray("\xFE\xFF");
+        QTest::newRow("utf-16le") << QByteArray("UTF-16LE") << QByteArray();
+        QTest::newRow("utf-16be") << QByteArray("UTF-16BE") << QByteArray();
+        QTest::newRow("utf-32le bom") << QByteArray("UTF-32LE") << QByteArray("\xFF\xFE\0\0", 4);
+        QTest::newRow("utf-32be") << QByteArray("UTF-32BE") << QByteArray();
+        QTest::newRow("utf-8 with a nul") << QByteArray("UTF-8") << QByteArray();
+    }
+
+    void wideUnicodeAndNulInSrt()
+    {
+        QFETCH(QByteArray, codec);
+        QFETCH(QByteArray, prefix);
+        const QStringList lines{kChinese, QStringLiteral("plain"), kChinese2};
+        QString text = srtText(lines);
+        if (codec == "UTF-8") {
+            text.insert(text.indexOf(QStringLiteral("plain")) + 2, QChar(QChar::Null)); // ffmpeg stops at a NUL
+        }
+        QTextCodec* textCodec = QTextCodec::codecForName(codec);
+        QVERIFY(textCodec);
+        QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+        const QByteArray bytes = prefix + textCodec->fromUnicode(text.constData(), text.size(), &state);
+        const QString srt = m_dir + QStringLiteral("/wide.srt");
+        QVERIFY(TestSupport::writeFile(srt, bytes));
+        const QString ass = GlobalManager::instance()->srtToAss(srt);
+        QVERIFY2(m->lastError().isEmpty(), qPrintable(m->lastError()));
+        QCOMPARE(m->loadCaptionFile(ass), 0);
+        QCOMPARE(captionTexts(), (QStringList{kChinese, codec == "UTF-8" ? QStringLiteral("plain") : lines.at(1), kChinese2}));
     }
 
 private:

@@ -434,7 +434,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(GlobalManager::instance()->getCurrentFile().fileName() == QStringLiteral("holiday.mp4"),
                                  20000);
         m_window->loadCaption(srt);
-        QCOMPARE(CaptionManager::instance()->getCaptions().size(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(CaptionManager::instance()->getCaptions().size(), 2, 30000);
         QSignalSpy captured(m_window, &MainWindow::captureSelectFinished);
         m_window->videoPlayWidget()->getControlButton(VideoPlayWidget::ButtonCaptureSelected)->click();
         QVERIFY(captured.wait(60000));

@@ -76,6 +76,33 @@
         <source>%1 holds no captions that can be shown.</source>
         <translation>%1 中没有可显示的字幕。</translation>
     </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>未加载字幕</translation>
+    </message>
+    <message>
+        <source>Reading the captions of %1…</source>
+        <translation>正在读取 %1 的字幕…</translation>
+    </message>
+    <message>
+        <source>Converting %1…</source>
+        <translation>正在转换 %1…</translation>
+    </message>
+    <message>
+        <source>Some captions were not loaded</source>
+        <translation>部分字幕未能加载</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 captions in %3 could not be read; the other %4 were loaded.</source>
+        <translation>%3 中的 %2 条字幕有 %1 条无法读取；其余 %4 条已加载。</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileReader</name>
+    <message>
+        <source>&quot;%1&quot; holds more than %2 captions. To keep memory in bounds, at most %2 captions are loaded from one file: split it into parts.</source>
+        <translation>“%1”包含超过 %2 条字幕。为避免耗尽内存，每个文件最多加载 %2 条字幕：请将其拆分。</translation>
+    </message>
 </context>
 <context>
     <name>CaptionItem</name>
@@ -125,18 +152,6 @@
     <message>
         <source>No subtitle file was chosen.</source>
         <translation>未选择字幕文件。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
-        <translation>“%1”是文件夹，不是字幕文件。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is too large to be a subtitle file.</source>
-        <translation>“%1”太大，不可能是字幕文件。</translation>
-    </message>
-    <message>
-        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
-        <translation>无法打开字幕文件“%1”。</translation>
     </message>
     <message>
         <source>No captions were found in &quot;%1&quot;.</source>
@@ -633,6 +648,12 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>无法将图片写入 %1：%2</translation>
+        <source>Cannot create the file: %1</source>
+        <translation>无法创建文件：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>写入图片失败：%1</translation>
     </message>
 </context>
 <context>
@@ -817,6 +838,25 @@
     </message>
 </context>
 <context>
+    <name>SubtitleFile</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
+        <translation>“%1”是文件夹，不是字幕文件。</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
+        <translation>无法打开字幕文件“%1”。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinary file (a device, pipe or socket): it cannot be read as subtitles.</source>
+        <translation>“%1”不是普通文件（设备、管道或套接字）：无法作为字幕读取。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be a subtitle file: subtitle files of up to %2 MB can be loaded.</source>
+        <translation>“%1”太大，不像字幕文件：最多可加载 %2 MB 的字幕文件。</translation>
+    </message>
+</context>
+<context>
     <name>TitleBar</name>
     <message>
         <source>Open video</source>
@@ -919,10 +959,6 @@
     <message>
         <source>No video</source>
         <translation>没有视频</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>未加载字幕</translation>
     </message>
     <message>
         <source>Open a video first, then generate its captions.</source>

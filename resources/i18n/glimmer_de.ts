@@ -76,6 +76,33 @@
         <source>%1 holds no captions that can be shown.</source>
         <translation>%1 enthält keine anzeigbaren Untertitel.</translation>
     </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>Keine Untertitel geladen</translation>
+    </message>
+    <message>
+        <source>Reading the captions of %1…</source>
+        <translation>Untertitel aus %1 werden gelesen…</translation>
+    </message>
+    <message>
+        <source>Converting %1…</source>
+        <translation>%1 wird umgewandelt…</translation>
+    </message>
+    <message>
+        <source>Some captions were not loaded</source>
+        <translation>Einige Untertitel wurden nicht geladen</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 captions in %3 could not be read; the other %4 were loaded.</source>
+        <translation>%1 der %2 Untertitel in %3 konnten nicht gelesen werden; die übrigen %4 wurden geladen.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileReader</name>
+    <message>
+        <source>&quot;%1&quot; holds more than %2 captions. To keep memory in bounds, at most %2 captions are loaded from one file: split it into parts.</source>
+        <translation>„%1“ enthält mehr als %2 Untertitel. Damit der Speicher reicht, werden aus einer Datei höchstens %2 Untertitel geladen: Teilen Sie die Datei auf.</translation>
+    </message>
 </context>
 <context>
     <name>CaptionItem</name>
@@ -125,18 +152,6 @@
     <message>
         <source>No subtitle file was chosen.</source>
         <translation>Es wurde keine Untertiteldatei ausgewählt.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
-        <translation>„%1“ ist ein Ordner, keine Untertiteldatei.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is too large to be a subtitle file.</source>
-        <translation>„%1“ ist zu groß für eine Untertiteldatei.</translation>
-    </message>
-    <message>
-        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
-        <translation>Die Untertiteldatei „%1“ konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>No captions were found in &quot;%1&quot;.</source>
@@ -636,6 +651,12 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>Das Bild konnte nicht in %1 geschrieben werden: %2</translation>
+        <source>Cannot create the file: %1</source>
+        <translation>Die Datei kann nicht angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Das Bild konnte nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -820,6 +841,25 @@
     </message>
 </context>
 <context>
+    <name>SubtitleFile</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
+        <translation>„%1“ ist ein Ordner, keine Untertiteldatei.</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
+        <translation>Die Untertiteldatei „%1“ konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinary file (a device, pipe or socket): it cannot be read as subtitles.</source>
+        <translation>„%1“ ist keine gewöhnliche Datei (ein Gerät, eine Pipe oder ein Socket) und kann nicht als Untertitel gelesen werden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be a subtitle file: subtitle files of up to %2 MB can be loaded.</source>
+        <translation>„%1“ ist zu groß für eine Untertiteldatei: Untertiteldateien bis %2 MB können geladen werden.</translation>
+    </message>
+</context>
+<context>
     <name>TitleBar</name>
     <message>
         <source>Open video</source>
@@ -922,10 +962,6 @@
     <message>
         <source>No video</source>
         <translation>Kein Video</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>Keine Untertitel geladen</translation>
     </message>
     <message>
         <source>Open a video first, then generate its captions.</source>

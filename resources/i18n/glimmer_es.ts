@@ -76,6 +76,33 @@
         <source>%1 holds no captions that can be shown.</source>
         <translation>%1 no contiene subtítulos que se puedan mostrar.</translation>
     </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>No se han cargado subtítulos</translation>
+    </message>
+    <message>
+        <source>Reading the captions of %1…</source>
+        <translation>Leyendo los subtítulos de %1…</translation>
+    </message>
+    <message>
+        <source>Converting %1…</source>
+        <translation>Convirtiendo %1…</translation>
+    </message>
+    <message>
+        <source>Some captions were not loaded</source>
+        <translation>Algunos subtítulos no se cargaron</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 captions in %3 could not be read; the other %4 were loaded.</source>
+        <translation>No se pudieron leer %1 de los %2 subtítulos de %3; se cargaron los otros %4.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileReader</name>
+    <message>
+        <source>&quot;%1&quot; holds more than %2 captions. To keep memory in bounds, at most %2 captions are loaded from one file: split it into parts.</source>
+        <translation>«%1» contiene más de %2 subtítulos. Para no agotar la memoria, se cargan como máximo %2 subtítulos de un archivo: divídalo en partes.</translation>
+    </message>
 </context>
 <context>
     <name>CaptionItem</name>
@@ -125,18 +152,6 @@
     <message>
         <source>No subtitle file was chosen.</source>
         <translation>No se ha elegido ningún archivo de subtítulos.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
-        <translation>«%1» es una carpeta, no un archivo de subtítulos.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is too large to be a subtitle file.</source>
-        <translation>«%1» es demasiado grande para ser un archivo de subtítulos.</translation>
-    </message>
-    <message>
-        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
-        <translation>No se ha podido abrir el archivo de subtítulos «%1».</translation>
     </message>
     <message>
         <source>No captions were found in &quot;%1&quot;.</source>
@@ -636,6 +651,12 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>No se pudo escribir la imagen en %1: %2</translation>
+        <source>Cannot create the file: %1</source>
+        <translation>No se puede crear el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>No se ha podido guardar la imagen: %1</translation>
     </message>
 </context>
 <context>
@@ -820,6 +841,25 @@
     </message>
 </context>
 <context>
+    <name>SubtitleFile</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
+        <translation>«%1» es una carpeta, no un archivo de subtítulos.</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
+        <translation>No se ha podido abrir el archivo de subtítulos «%1».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinary file (a device, pipe or socket): it cannot be read as subtitles.</source>
+        <translation>«%1» no es un archivo normal (es un dispositivo, una tubería o un socket): no se puede leer como subtítulos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be a subtitle file: subtitle files of up to %2 MB can be loaded.</source>
+        <translation>«%1» es demasiado grande para ser un archivo de subtítulos: se pueden cargar archivos de hasta %2 MB.</translation>
+    </message>
+</context>
+<context>
     <name>TitleBar</name>
     <message>
         <source>Open video</source>
@@ -922,10 +962,6 @@
     <message>
         <source>No video</source>
         <translation>No hay vídeo</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>No se han cargado subtítulos</translation>
     </message>
     <message>
         <source>Open a video first, then generate its captions.</source>

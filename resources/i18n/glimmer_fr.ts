@@ -76,6 +76,33 @@
         <source>%1 holds no captions that can be shown.</source>
         <translation>%1 ne contient aucun sous-titre affichable.</translation>
     </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>Aucun sous-titre chargé</translation>
+    </message>
+    <message>
+        <source>Reading the captions of %1…</source>
+        <translation>Lecture des sous-titres de %1…</translation>
+    </message>
+    <message>
+        <source>Converting %1…</source>
+        <translation>Conversion de %1…</translation>
+    </message>
+    <message>
+        <source>Some captions were not loaded</source>
+        <translation>Certains sous-titres n&apos;ont pas été chargés</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 captions in %3 could not be read; the other %4 were loaded.</source>
+        <translation>%1 des %2 sous-titres de %3 n&apos;ont pas pu être lus ; les %4 autres ont été chargés.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileReader</name>
+    <message>
+        <source>&quot;%1&quot; holds more than %2 captions. To keep memory in bounds, at most %2 captions are loaded from one file: split it into parts.</source>
+        <translation>« %1 » contient plus de %2 sous-titres. Pour ménager la mémoire, %2 sous-titres au plus sont chargés depuis un fichier : scindez-le en plusieurs parties.</translation>
+    </message>
 </context>
 <context>
     <name>CaptionItem</name>
@@ -125,18 +152,6 @@
     <message>
         <source>No subtitle file was chosen.</source>
         <translation>Aucun fichier de sous-titres n’a été choisi.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
-        <translation>« %1 » est un dossier, pas un fichier de sous-titres.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is too large to be a subtitle file.</source>
-        <translation>« %1 » est trop volumineux pour être un fichier de sous-titres.</translation>
-    </message>
-    <message>
-        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
-        <translation>Impossible d’ouvrir le fichier de sous-titres « %1 ».</translation>
     </message>
     <message>
         <source>No captions were found in &quot;%1&quot;.</source>
@@ -636,6 +651,12 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>L&apos;écriture de l&apos;image dans %1 a échoué : %2</translation>
+        <source>Cannot create the file: %1</source>
+        <translation>Impossible de créer le fichier : %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>L’écriture de l’image a échoué : %1</translation>
     </message>
 </context>
 <context>
@@ -820,6 +841,25 @@
     </message>
 </context>
 <context>
+    <name>SubtitleFile</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
+        <translation>« %1 » est un dossier, pas un fichier de sous-titres.</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
+        <translation>Impossible d’ouvrir le fichier de sous-titres « %1 ».</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinary file (a device, pipe or socket): it cannot be read as subtitles.</source>
+        <translation>« %1 » n&apos;est pas un fichier ordinaire (périphérique, tube ou socket) : il ne peut pas être lu comme sous-titres.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be a subtitle file: subtitle files of up to %2 MB can be loaded.</source>
+        <translation>« %1 » est trop volumineux pour un fichier de sous-titres : les fichiers de sous-titres jusqu&apos;à %2 Mo peuvent être chargés.</translation>
+    </message>
+</context>
+<context>
     <name>TitleBar</name>
     <message>
         <source>Open video</source>
@@ -922,10 +962,6 @@
     <message>
         <source>No video</source>
         <translation>Aucune vidéo</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>Aucun sous-titre chargé</translation>
     </message>
     <message>
         <source>Open a video first, then generate its captions.</source>

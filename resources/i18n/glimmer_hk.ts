@@ -76,6 +76,33 @@
         <source>%1 holds no captions that can be shown.</source>
         <translation>%1 中沒有可顯示的字幕。</translation>
     </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>未載入字幕</translation>
+    </message>
+    <message>
+        <source>Reading the captions of %1…</source>
+        <translation>正在讀取 %1 的字幕…</translation>
+    </message>
+    <message>
+        <source>Converting %1…</source>
+        <translation>正在轉換 %1…</translation>
+    </message>
+    <message>
+        <source>Some captions were not loaded</source>
+        <translation>部分字幕未能載入</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 captions in %3 could not be read; the other %4 were loaded.</source>
+        <translation>%3 中的 %2 條字幕有 %1 條無法讀取；其餘 %4 條已載入。</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileReader</name>
+    <message>
+        <source>&quot;%1&quot; holds more than %2 captions. To keep memory in bounds, at most %2 captions are loaded from one file: split it into parts.</source>
+        <translation>「%1」包含超過 %2 條字幕。為避免耗盡記憶體，每個檔案最多載入 %2 條字幕：請將其分拆。</translation>
+    </message>
 </context>
 <context>
     <name>CaptionItem</name>
@@ -125,18 +152,6 @@
     <message>
         <source>No subtitle file was chosen.</source>
         <translation>未選擇字幕檔案。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
-        <translation>「%1」是資料夾，不是字幕檔案。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is too large to be a subtitle file.</source>
-        <translation>「%1」太大，不可能是字幕檔案。</translation>
-    </message>
-    <message>
-        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
-        <translation>無法開啟字幕檔案「%1」。</translation>
     </message>
     <message>
         <source>No captions were found in &quot;%1&quot;.</source>
@@ -633,6 +648,12 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>無法將圖片寫入 %1：%2</translation>
+        <source>Cannot create the file: %1</source>
+        <translation>無法建立檔案：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>寫入圖片失敗：%1</translation>
     </message>
 </context>
 <context>
@@ -817,6 +838,25 @@
     </message>
 </context>
 <context>
+    <name>SubtitleFile</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
+        <translation>「%1」是資料夾，不是字幕檔案。</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
+        <translation>無法開啟字幕檔案「%1」。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinary file (a device, pipe or socket): it cannot be read as subtitles.</source>
+        <translation>「%1」不是一般檔案（裝置、管道或通訊端）：無法作為字幕讀取。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be a subtitle file: subtitle files of up to %2 MB can be loaded.</source>
+        <translation>「%1」太大，不像字幕檔案：最多可載入 %2 MB 的字幕檔案。</translation>
+    </message>
+</context>
+<context>
     <name>TitleBar</name>
     <message>
         <source>Open video</source>
@@ -919,10 +959,6 @@
     <message>
         <source>No video</source>
         <translation>沒有影片</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>未載入字幕</translation>
     </message>
     <message>
         <source>Open a video first, then generate its captions.</source>

@@ -76,6 +76,33 @@
         <source>%1 holds no captions that can be shown.</source>
         <translation>%1 non contiene sottotitoli visualizzabili.</translation>
     </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>Nessun sottotitolo caricato</translation>
+    </message>
+    <message>
+        <source>Reading the captions of %1…</source>
+        <translation>Lettura dei sottotitoli di %1…</translation>
+    </message>
+    <message>
+        <source>Converting %1…</source>
+        <translation>Conversione di %1…</translation>
+    </message>
+    <message>
+        <source>Some captions were not loaded</source>
+        <translation>Alcuni sottotitoli non sono stati caricati</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 captions in %3 could not be read; the other %4 were loaded.</source>
+        <translation>Non è stato possibile leggere %1 dei %2 sottotitoli di %3; gli altri %4 sono stati caricati.</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileReader</name>
+    <message>
+        <source>&quot;%1&quot; holds more than %2 captions. To keep memory in bounds, at most %2 captions are loaded from one file: split it into parts.</source>
+        <translation>&quot;%1&quot; contiene più di %2 sottotitoli. Per non esaurire la memoria, da un file si caricano al massimo %2 sottotitoli: dividilo in parti.</translation>
+    </message>
 </context>
 <context>
     <name>CaptionItem</name>
@@ -125,18 +152,6 @@
     <message>
         <source>No subtitle file was chosen.</source>
         <translation>Non è stato scelto alcun file di sottotitoli.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
-        <translation>&quot;%1&quot; è una cartella, non un file di sottotitoli.</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is too large to be a subtitle file.</source>
-        <translation>&quot;%1&quot; è troppo grande per essere un file di sottotitoli.</translation>
-    </message>
-    <message>
-        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
-        <translation>Impossibile aprire il file di sottotitoli &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>No captions were found in &quot;%1&quot;.</source>
@@ -636,6 +651,12 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>Scrittura dell&apos;immagine in %1 non riuscita: %2</translation>
+        <source>Cannot create the file: %1</source>
+        <translation>Impossibile creare il file: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Scrittura dell’immagine non riuscita: %1</translation>
     </message>
 </context>
 <context>
@@ -820,6 +841,25 @@
     </message>
 </context>
 <context>
+    <name>SubtitleFile</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
+        <translation>&quot;%1&quot; è una cartella, non un file di sottotitoli.</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
+        <translation>Impossibile aprire il file di sottotitoli &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinary file (a device, pipe or socket): it cannot be read as subtitles.</source>
+        <translation>&quot;%1&quot; non è un file normale (dispositivo, pipe o socket): non può essere letto come sottotitoli.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be a subtitle file: subtitle files of up to %2 MB can be loaded.</source>
+        <translation>&quot;%1&quot; è troppo grande per essere un file di sottotitoli: si possono caricare file di sottotitoli fino a %2 MB.</translation>
+    </message>
+</context>
+<context>
     <name>TitleBar</name>
     <message>
         <source>Open video</source>
@@ -922,10 +962,6 @@
     <message>
         <source>No video</source>
         <translation>Nessun video</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>Nessun sottotitolo caricato</translation>
     </message>
     <message>
         <source>Open a video first, then generate its captions.</source>

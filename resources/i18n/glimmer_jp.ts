@@ -76,6 +76,33 @@
         <source>%1 holds no captions that can be shown.</source>
         <translation>%1 には表示できる字幕がありません。</translation>
     </message>
+    <message>
+        <source>No captions loaded</source>
+        <translation>字幕を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>Reading the captions of %1…</source>
+        <translation>%1 の字幕を読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>Converting %1…</source>
+        <translation>%1 を変換しています…</translation>
+    </message>
+    <message>
+        <source>Some captions were not loaded</source>
+        <translation>一部の字幕を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>%1 of the %2 captions in %3 could not be read; the other %4 were loaded.</source>
+        <translation>%3 の字幕 %2 件のうち %1 件を読み取れませんでした。残りの %4 件は読み込まれました。</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionFileReader</name>
+    <message>
+        <source>&quot;%1&quot; holds more than %2 captions. To keep memory in bounds, at most %2 captions are loaded from one file: split it into parts.</source>
+        <translation>「%1」には %2 件を超える字幕があります。メモリを使い切らないよう、1 つのファイルから読み込めるのは %2 件までです。ファイルを分割してください。</translation>
+    </message>
 </context>
 <context>
     <name>CaptionItem</name>
@@ -125,18 +152,6 @@
     <message>
         <source>No subtitle file was chosen.</source>
         <translation>字幕ファイルが選択されていません。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
-        <translation>「%1」はフォルダーです。字幕ファイルではありません。</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is too large to be a subtitle file.</source>
-        <translation>「%1」は字幕ファイルとしては大きすぎます。</translation>
-    </message>
-    <message>
-        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
-        <translation>字幕ファイル「%1」を開けませんでした。</translation>
     </message>
     <message>
         <source>No captions were found in &quot;%1&quot;.</source>
@@ -633,6 +648,12 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>%1 への画像の書き込みに失敗しました: %2</translation>
+        <source>Cannot create the file: %1</source>
+        <translation>ファイルを作成できません：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>画像の書き込みに失敗しました：%1</translation>
     </message>
 </context>
 <context>
@@ -817,6 +838,25 @@
     </message>
 </context>
 <context>
+    <name>SubtitleFile</name>
+    <message>
+        <source>&quot;%1&quot; is a folder, not a subtitle file.</source>
+        <translation>「%1」はフォルダーです。字幕ファイルではありません。</translation>
+    </message>
+    <message>
+        <source>The subtitle file &quot;%1&quot; could not be opened.</source>
+        <translation>字幕ファイル「%1」を開けませんでした。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an ordinary file (a device, pipe or socket): it cannot be read as subtitles.</source>
+        <translation>「%1」は通常のファイルではありません（デバイス、パイプ、ソケット）。字幕として読み込めません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is too large to be a subtitle file: subtitle files of up to %2 MB can be loaded.</source>
+        <translation>「%1」は字幕ファイルとしては大きすぎます。読み込める字幕ファイルは %2 MB までです。</translation>
+    </message>
+</context>
+<context>
     <name>TitleBar</name>
     <message>
         <source>Open video</source>
@@ -919,10 +959,6 @@
     <message>
         <source>No video</source>
         <translation>動画がありません</translation>
-    </message>
-    <message>
-        <source>No captions loaded</source>
-        <translation>字幕を読み込めませんでした</translation>
     </message>
     <message>
         <source>Open a video first, then generate its captions.</source>

@@ -6,9 +6,27 @@
 #include <QHash>
 #include <QStringView>
 
-void AssReader::read(const QString& content, QList<CaptionStyle*>& styles, QList<CaptionInfo*>& captions,
-                     QStringList& lines)
+AssReader::Outcome AssReader::read(const QString& content, QList<CaptionStyle*>& styles,
+                                   QList<CaptionInfo*>& captions, QStringList& lines)
 {
+    return read(content, styles, captions, lines, Control());
+}
+
+AssReader::Outcome AssReader::read(const QString& content, QList<CaptionStyle*>& styles,
+                                   QList<CaptionInfo*>& captions, QStringList& lines, const Control& control)
+{
+    const int firstStyle = styles.size();
+    const int firstCaption = captions.size();
+    const int firstLine = lines.size();
+    auto undo = [&](Outcome outcome) {
+        qDeleteAll(styles.begin() + firstStyle, styles.end());
+        styles.erase(styles.begin() + firstStyle, styles.end());
+        qDeleteAll(captions.begin() + firstCaption, captions.end());
+        captions.erase(captions.begin() + firstCaption, captions.end());
+        lines.erase(lines.begin() + firstLine, lines.end());
+        return outcome;
+    };
+
     static const QString stylePrefix = QStringLiteral("Style:");
     static const QString eventsSection = QStringLiteral("[Events]");
     static const QString dialoguePrefix = QStringLiteral("Dialogue:");
@@ -20,7 +38,14 @@ void AssReader::read(const QString& content, QList<CaptionStyle*>& styles, QList
     const QChar* data = content.constData();
     const int size = content.size();
     int pos = 0;
+    int nextReport = 0;
     while (pos < size) {
+        if (control.progress && pos >= nextReport) {
+            if (!control.progress(static_cast<int>(qint64(pos) * 100 / size))) {
+                return undo(Cancelled);
+            }
+            nextReport = pos + qMax(size / 100, 64 * 1024);
+        }
         // Line ends may be LF, CRLF or a lone CR.
         int end = pos;
         while (end < size && data[end] != QLatin1Char('\n') && data[end] != QLatin1Char('\r')) {
@@ -64,6 +89,9 @@ void AssReader::read(const QString& content, QList<CaptionStyle*>& styles, QList
             return QStringView(line).mid(from, commas[n] - from).trimmed().toString();
         };
 
+        if (counter >= control.maxEvents) {
+            return undo(TooManyEvents);
+        }
         auto* info = new CaptionInfo;
         info->index = ++counter;
         info->type = line.left(colon);
@@ -83,4 +111,5 @@ void AssReader::read(const QString& content, QList<CaptionStyle*>& styles, QList
         info->captionEdit = CaptionEdit::fromStyle(*info->captionStyle, info->text);
         captions.append(info);
     }
+    return Done;
 }

@@ -25,7 +25,7 @@ const QString kStylePrefix = QStringLiteral("Style: ");
 
 QString AssWriter::defaultStyleLine()
 {
-    return kDefaultStyleTemplate.arg(QStringLiteral("Arial")).arg(18);
+    return kDefaultStyleTemplate.arg(QStringLiteral("Arial"), QString::number(18));
 }
 
 CaptionStyle* AssWriter::parseStyleLine(const QString& line)
@@ -83,18 +83,19 @@ void AssWriter::writeEventsHeader(QTextStream& stream)
 
 QString AssWriter::eventLine(const CaptionInfo& info)
 {
-    // Filled one placeholder after another: the text goes in before the style name.
-    return kEventTemplate.arg(info.start).arg(info.end).arg(eventText(info.text)).arg(info.style);
+    // Filled in one step: a "%4" inside the text stays as written.
+    return kEventTemplate.arg(info.start, info.end, eventText(info.text), info.style);
 }
 
 QString AssWriter::editedEventLine(const CaptionInfo& info, const QString& text, const QString& override)
 {
-    return kEditedEventTemplate.arg(info.start).arg(info.end).arg(text).arg(info.style).arg(override);
+    return kEditedEventTemplate.arg(info.start, info.end, text, info.style, override);
 }
 
 QString AssWriter::overrideBlock(const CaptionEdit& edit)
 {
-    return kOverrideTemplate.arg(edit.fontSize).arg(edit.x).arg(edit.y).arg(edit.border).arg(edit.shadow);
+    return kOverrideTemplate.arg(QString::number(edit.fontSize), QString::number(edit.x), QString::number(edit.y),
+                                 QString::number(edit.border), QString::number(edit.shadow));
 }
 
 QString AssWriter::eventText(const QString& text)

@@ -3,10 +3,10 @@
 #include "appconfig.h"
 #include "globalmanager.h"
 #include "assreader.h"
+#include "captionfilereader.h"
 #include "asstime.h"
 #include "asswriter.h"
 #include "speechreply.h"
-#include "subtitleencoding.h"
 
 #include <QDebug>
 #include <QFile>
@@ -25,9 +25,6 @@
 
 namespace {
 const QString kStyleAll = QStringLiteral("StyleAll");
-
-// Anything larger is not a subtitle file (a video picked by mistake, say).
-constexpr qint64 kMaxSubtitleFileSize = 256 * 1024 * 1024;
 
 int clampToInt(qint64 value)
 {
@@ -307,6 +304,16 @@ bool CaptionManager::createCaptions(const QByteArray& json, bool save)
 
 int CaptionManager::loadCaptionFile(const QString& path)
 {
+    return finishLoad(path, CaptionFileReader::read(pathToLoad(path)));
+}
+
+QString CaptionManager::pathToLoad(const QString& path) const
+{
+    return path.isEmpty() ? m_assFilePath : path;
+}
+
+int CaptionManager::finishLoad(const QString& path, CaptionFileContent content)
+{
     // A conversion's own message belongs to its output and to the fallback
     // load that follows a failed conversion; anything else starts afresh.
     const bool afterConversion = path.isEmpty() ? !m_errorPath.isEmpty() : path == m_errorPath;
@@ -315,48 +322,28 @@ int CaptionManager::loadCaptionFile(const QString& path)
     }
     m_errorPath.clear();
 
-    const QString filePath = path.isEmpty() ? m_assFilePath : path;
-    if (filePath.isEmpty()) {
+    clearCaptions();
+    m_fileLines.clear();
+    if (content.path.isEmpty()) {
         qDebug() << "Failed to open the ass file, filePath is empty.";
-        clearCaptions();
-        m_fileLines.clear();
         reportLoadError(tr("No subtitle file was chosen."));
         return -1;
     }
-
-    clearCaptions();
-    m_fileLines.clear();
-
-    const QFileInfo fileInfo(filePath);
-    QFile file(filePath);
-    if (fileInfo.isDir()) {
-        qDebug().noquote() << "Failed to open the file" << filePath << "(a folder)";
-        reportLoadError(tr("\"%1\" is a folder, not a subtitle file.").arg(fileInfo.fileName()));
-        return 1;
-    }
-    if (fileInfo.size() > kMaxSubtitleFileSize) {
-        qDebug().noquote() << "Failed to open the file" << filePath << "(too large:" << fileInfo.size() << ")";
-        reportLoadError(tr("\"%1\" is too large to be a subtitle file.").arg(fileInfo.fileName()));
-        return 1;
-    }
-    // Read raw: line ends (LF, CRLF, lone CR) and the character set are handled below.
-    if (!file.open(QIODevice::ReadOnly)) {
-        qDebug().noquote() << "Failed to open the file" << filePath << file.errorString();
-        reportLoadError(tr("The subtitle file \"%1\" could not be opened.").arg(fileInfo.fileName()));
+    if (!content.readable) {
+        reportLoadError(content.error);
         return 1;
     }
 
-    m_assFilePath = filePath;
+    m_assFilePath = content.path;
     qDeleteAll(m_styles);
-    m_styles.clear();
-    const QByteArray bytes = file.readAll();
-    file.close();
-    QList<CaptionInfo*> captions;
-    AssReader::read(SubtitleEncoding::decode(bytes), m_styles, captions, m_fileLines);
-    m_captions = captions; // emptied above
+    m_styles = content.styles;
+    content.styles.clear();
+    m_fileLines = std::move(content.lines);
+    m_captions = content.captions; // emptied above
+    content.captions.clear();
 
     if (m_captions.isEmpty()) {
-        reportLoadError(tr("No captions were found in \"%1\".").arg(fileInfo.fileName()));
+        reportLoadError(tr("No captions were found in \"%1\".").arg(QFileInfo(m_assFilePath).fileName()));
     }
     return 0;
 }

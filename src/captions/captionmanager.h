@@ -15,6 +15,8 @@ class QFile;
 
 // The caption list of the open video, its styles, the recognition language and
 // the working files (extracted audio, raw service reply, working ASS file).
+struct CaptionFileContent;
+
 class CaptionManager : public QObject
 {
     Q_OBJECT
@@ -68,6 +70,11 @@ public:
 
     // Loading
     int loadCaptionFile(const QString& path);
+    // loadCaptionFile in two halves, so that the reading can run on another
+    // thread: the file loadCaptionFile(path) reads, then the records taken in
+    // (GUI thread) with loadCaptionFile's result.
+    QString pathToLoad(const QString& path) const;
+    int finishLoad(const QString& path, CaptionFileContent content);
 
     // Why the latest subtitle load or SRT conversion gave the user nothing new
     // (unreadable file, no captions, ffmpeg missing or failing); empty when it

@@ -5,12 +5,15 @@
 #include "filemanager.h"
 #include "globalmanager.h"
 #include "subtitleencoding.h"
+#include "subtitlefile.h"
 
 #include <QDebug>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStringList>
+#include <QTemporaryFile>
 
 QString SubtitleConverter::outputPath(const QString& srtPath)
 {
@@ -18,7 +21,22 @@ QString SubtitleConverter::outputPath(const QString& srtPath)
            + QStringLiteral(".ass");
 }
 
-QString SubtitleConverter::srtToAss(const QString& srtPath, QString* error)
+int SubtitleConverter::countCues(const QString& text)
+{
+    static const QRegularExpression timing(
+        QStringLiteral("^[ \\t]*\\d+:\\d+:\\d+[,.]\\d+[ \\t]*-->[ \\t]*\\d+:\\d+:\\d+[,.]\\d+[^\\n]*\\n[ \\t]*\\S"),
+        QRegularExpression::MultilineOption);
+    int count = 0;
+    QRegularExpressionMatchIterator it = timing.globalMatch(text);
+    while (it.hasNext()) {
+        it.next();
+        ++count;
+    }
+    return count;
+}
+
+QString SubtitleConverter::srtToAss(const QString& srtPath, QString* error, int* sourceCues,
+                                    const std::function<bool()>& stop)
 {
     const QString output = outputPath(srtPath);
     qDebug() << "srtToAss->" << output;
@@ -29,14 +47,29 @@ QString SubtitleConverter::srtToAss(const QString& srtPath, QString* error)
         }
     };
 
-    // ffmpeg refuses subtitles that are not UTF-8 unless told their charset.
-    QStringList arguments;
-    const QByteArray charset = SubtitleEncoding::detectLegacyFile(srtPath);
-    if (!charset.isEmpty()) {
-        qDebug() << "srtToAss charset:" << charset;
-        arguments << QStringLiteral("-sub_charenc") << QString::fromLatin1(charset);
+    QByteArray bytes;
+    QString readError;
+    if (!SubtitleFile::read(srtPath, &bytes, &readError)) {
+        fail(readError);
+        return QString();
     }
-    arguments << QStringLiteral("-i") << srtPath << QStringLiteral("-y") << output;
+    // ffmpeg reads UTF-8 only (other text it mangles or drops, exiting 0): it
+    // gets the text re-encoded, whatever the file's own character set.
+    QString text = SubtitleEncoding::decode(bytes);
+    bytes.clear();
+    // ffmpeg stops reading at a NUL byte and drops every caption after it.
+    text.remove(QChar(QChar::Null));
+    if (sourceCues) {
+        *sourceCues = countCues(text);
+    }
+    QTemporaryFile utf8(AppPaths::tempPath(AppConfig::APP_NAME) + QStringLiteral("/srt-XXXXXX.srt"));
+    if (!utf8.open() || utf8.write(text.toUtf8()) < 0 || !utf8.flush()) {
+        qDebug() << "srtToAss: cannot write the UTF-8 copy" << utf8.fileName() << utf8.errorString();
+        fail(tr("The SRT file \"%1\" could not be converted.").arg(name));
+        return QString();
+    }
+    const QStringList arguments{QStringLiteral("-nostdin"), QStringLiteral("-i"), utf8.fileName(),
+                                QStringLiteral("-y"), output};
 
     const QString program = FileManager::instance()->findTool(QStringLiteral("ffmpeg"));
     QProcess process;
@@ -48,17 +81,29 @@ QString SubtitleConverter::srtToAss(const QString& srtPath, QString* error)
         return QString();
     }
     process.closeWriteChannel();
-    if (!process.waitForFinished(30000)) {
-        qDebug() << "Error: FFmpeg process failed to finish.";
-        process.kill();
-        process.waitForFinished(1000);
-        fail(tr("The SRT file \"%1\" could not be converted: ffmpeg did not finish in time.").arg(name));
-        return QString();
+    QByteArray log;
+    QElapsedTimer clock;
+    clock.start();
+    while (!process.waitForFinished(100)) {
+        log = (log + process.readAll()).right(4000);
+        if (stop && stop()) {
+            process.kill();
+            process.waitForFinished(1000);
+            return QString();
+        }
+        if (clock.elapsed() > 30000) {
+            qDebug() << "Error: FFmpeg process failed to finish.";
+            process.kill();
+            process.waitForFinished(1000);
+            fail(tr("The SRT file \"%1\" could not be converted: ffmpeg did not finish in time.").arg(name));
+            return QString();
+        }
     }
+    log += process.readAll();
     const bool failed = process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0;
     if (failed) {
         qDebug() << "srtToAss: ffmpeg exit code" << process.exitCode()
-                 << QString::fromLocal8Bit(process.readAll().right(2000));
+                 << QString::fromLocal8Bit(log.right(2000));
     }
     if (!QFileInfo::exists(output)) {
         qDebug() << "Error: Failed to convert SRT to ASS.";

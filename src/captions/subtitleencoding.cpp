@@ -39,9 +39,45 @@ bool SubtitleEncoding::isValidUtf8(const QByteArray& bytes)
     return state.invalidChars == 0;
 }
 
+QByteArray SubtitleEncoding::detectWideUnicode(const QByteArray& bytes)
+{
+    // Text never holds NUL characters, but the wide forms put a zero byte into
+    // (nearly) every unit of Latin text, and subtitles always carry Latin
+    // digits and arrows. Count the zeros at each place of a 4-byte unit.
+    const int length = static_cast<int>(qMin<qint64>(bytes.size(), 64 * 1024)) & ~3;
+    if (length < 8) {
+        return QByteArray();
+    }
+    qint64 zeros[4] = {0, 0, 0, 0};
+    for (int i = 0; i < length; ++i) {
+        zeros[i % 4] += bytes.at(i) == '\0' ? 1 : 0;
+    }
+    const qint64 units = length / 4;
+    const qint64 total = zeros[0] + zeros[1] + zeros[2] + zeros[3];
+    if (total * 10 < length) {
+        return QByteArray();
+    }
+    // UTF-32 outside the astral planes: the high half of every unit is zero.
+    if (zeros[2] * 20 >= units * 19 && zeros[3] * 20 >= units * 19) {
+        return "UTF-32LE";
+    }
+    if (zeros[0] * 20 >= units * 19 && zeros[1] * 20 >= units * 19) {
+        return "UTF-32BE";
+    }
+    const qint64 odd = zeros[1] + zeros[3];
+    const qint64 even = zeros[0] + zeros[2];
+    if (odd * 10 >= total * 9) {
+        return "UTF-16LE";
+    }
+    if (even * 10 >= total * 9) {
+        return "UTF-16BE";
+    }
+    return QByteArray();
+}
+
 QByteArray SubtitleEncoding::detectLegacy(const QByteArray& bytes)
 {
-    if (bytes.isEmpty() || hasUnicodeBom(bytes) || isValidUtf8(bytes)) {
+    if (bytes.isEmpty() || hasUnicodeBom(bytes) || !detectWideUnicode(bytes).isEmpty() || isValidUtf8(bytes)) {
         return QByteArray();
     }
     QByteArray charset = runDetector(bytes);
@@ -65,6 +101,10 @@ QByteArray SubtitleEncoding::detectLegacyFile(const QString& path)
 QString SubtitleEncoding::decode(const QByteArray& bytes)
 {
     QTextCodec* codec = QTextCodec::codecForUtfText(bytes, nullptr);
+    if (!codec) {
+        const QByteArray wide = detectWideUnicode(bytes);
+        codec = wide.isEmpty() ? nullptr : QTextCodec::codecForName(wide);
+    }
     if (!codec) {
         QTextCodec::ConverterState state;
         QString text = QTextCodec::codecForMib(106)->toUnicode(bytes.constData(), bytes.size(), &state);

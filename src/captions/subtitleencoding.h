@@ -18,8 +18,14 @@ public:
     // Same for the start of a file; empty when it cannot be read.
     static QByteArray detectLegacyFile(const QString& path);
 
-    // Text of the bytes: Unicode by BOM, else UTF-8 when valid, else the
-    // detected legacy charset. A leading BOM is not part of the text.
+    // "UTF-32LE", "UTF-32BE", "UTF-16LE" or "UTF-16BE" for text in one of
+    // those without a byte-order mark (told by where its zero bytes fall);
+    // empty otherwise.
+    static QByteArray detectWideUnicode(const QByteArray& bytes);
+
+    // Text of the bytes: Unicode by BOM or by the pattern of its zero bytes,
+    // else UTF-8 when valid, else the detected legacy charset. A leading BOM
+    // is not part of the text.
     static QString decode(const QByteArray& bytes);
 
 private:

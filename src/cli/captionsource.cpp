@@ -132,7 +132,7 @@ QList<CaptionInfo*> CaptionSource::select(const QList<CaptionInfo*>& captions, c
     if (!numbers.isEmpty()) {
         for (int number : numbers) {
             if (number > captions.size()) {
-                *error = QStringLiteral("there is no caption %1: the subtitles hold %2").arg(number).arg(captions.size());
+                *error = QStringLiteral("there is no caption %1: the subtitles hold %2").arg(QString::number(number), QString::number(captions.size()));
                 return {};
             }
             chosen.append(captions.at(number - 1));

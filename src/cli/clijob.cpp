@@ -230,13 +230,11 @@ void CliJob::beginCapture()
         // frame again, under another caption's text.
         if (shot.startMs < 0) {
             m_progress->note(QStringLiteral("caption %1 has no readable start time (%2): skipped")
-                                 .arg(shot.number)
-                                 .arg(shot.start));
+                                 .arg(QString::number(shot.number), shot.start));
         } else if (duration > 0.0 && shot.startMs / 1000.0 >= duration) {
             m_progress->note(QStringLiteral("caption %1 starts at %2, at or after the end of the video (%3 s): skipped")
-                                 .arg(shot.number)
-                                 .arg(shot.start)
-                                 .arg(duration, 0, 'f', 2));
+                                 .arg(QString::number(shot.number), shot.start,
+                                      QString::number(duration, 'f', 2)));
         } else {
             m_shots.append(shot);
         }
@@ -294,7 +292,7 @@ void CliJob::frameArrived(int tag, const QImage& image, const QImage& plain)
 void CliJob::useFrame(int index, const Frame& frame)
 {
     const Shot& shot = m_shots.at(index);
-    m_progress->step(QStringLiteral("caption %1 at %2").arg(shot.number).arg(shot.start));
+    m_progress->step(QStringLiteral("caption %1 at %2").arg(QString::number(shot.number), shot.start));
     if (!m_options.framesDir.isEmpty()) {
         writeFrame(index, frame.image);
         return;
@@ -329,9 +327,8 @@ bool CliJob::startCanvas(const QSize& firstSize)
     const int length = layout == CliOptions::Horizontal ? firstSize.width() : firstSize.height();
     if (layout != CliOptions::Grid && m_shots.size() > 1 && space <= -length) {
         fail(QStringLiteral("--space %1 leaves nothing of the frames after the first: they are %2 pixels %3")
-                 .arg(space)
-                 .arg(length)
-                 .arg(layout == CliOptions::Horizontal ? QStringLiteral("wide") : QStringLiteral("tall")),
+                 .arg(QString::number(space), QString::number(length),
+                      layout == CliOptions::Horizontal ? QStringLiteral("wide") : QStringLiteral("tall")),
              2);
         return false;
     }
@@ -346,8 +343,7 @@ bool CliJob::startCanvas(const QSize& firstSize)
     }
     if (!m_composer->begin()) {
         fail(QStringLiteral("the stitched picture would be %1x%2 pixels, more than this machine can hold")
-                 .arg(size.width())
-                 .arg(size.height()));
+                 .arg(QString::number(size.width()), QString::number(size.height())));
         return false;
     }
     return true;
@@ -367,9 +363,8 @@ QString CliJob::framePath(int index) const
 {
     // The export's naming of single frames: <video>_<n>.<format>.
     return QStringLiteral("%1/%2_%3.%4")
-        .arg(m_options.framesDir, QFileInfo(m_options.video).completeBaseName())
-        .arg(index + 1)
-        .arg(m_options.format.toLower());
+        .arg(m_options.framesDir, QFileInfo(m_options.video).completeBaseName(), QString::number(index + 1),
+             m_options.format.toLower());
 }
 
 void CliJob::writeFrame(int index, const QImage& image)
@@ -409,7 +404,7 @@ void CliJob::maybeFinish()
         return;
     }
     if (!m_options.framesDir.isEmpty()) {
-        succeed(QStringLiteral("wrote %1 frame(s) to %2").arg(m_written).arg(m_options.framesDir));
+        succeed(QStringLiteral("wrote %1 frame(s) to %2").arg(QString::number(m_written), m_options.framesDir));
         return;
     }
     // Out of the grabber's own call, so that it may be released.
@@ -455,5 +450,6 @@ void CliJob::finishPicture()
         fail(QStringLiteral("cannot write %1: %2").arg(m_options.output, error));
         return;
     }
-    succeed(QStringLiteral("wrote %1 (%2x%3)").arg(m_options.output).arg(picture.width()).arg(picture.height()));
+    succeed(QStringLiteral("wrote %1 (%2x%3)")
+                .arg(m_options.output, QString::number(picture.width()), QString::number(picture.height())));
 }

@@ -40,10 +40,8 @@ void ProgressReporter::drawBar()
 {
     const int filled = m_total > 0 ? m_done * kBarWidth / m_total : kBarWidth;
     const QString bar = QStringLiteral("\r[%1%2] %3/%4 %5")
-                            .arg(QString(filled, QLatin1Char('#')), QString(kBarWidth - filled, QLatin1Char('.')))
-                            .arg(m_done)
-                            .arg(m_total)
-                            .arg(m_what);
+                            .arg(QString(filled, QLatin1Char('#')), QString(kBarWidth - filled, QLatin1Char('.')),
+                                 QString::number(m_done), QString::number(m_total), m_what);
     std::fputs(bar.toLocal8Bit().constData(), m_stream);
     std::fputs("\033[K", m_stream);
     std::fflush(m_stream);
@@ -66,7 +64,7 @@ void ProgressReporter::step(const QString& detail)
     if (m_mode == Bar) {
         drawBar();
     } else if (m_mode == Lines) {
-        print(QStringLiteral("%1/%2 %3").arg(m_done).arg(m_total).arg(detail));
+        print(QStringLiteral("%1/%2 %3").arg(QString::number(m_done), QString::number(m_total), detail));
     }
 }
 

@@ -196,7 +196,7 @@ QString GlobalManager::saveImage(const QImage& image, const QString& dir, const 
     const QString stem = nameInfo.completeBaseName();
     int n = 1;
     while (QFileInfo::exists(path)) {
-        path = QStringLiteral("%1/%2(%3).%4").arg(dir, stem).arg(n).arg(format);
+        path = QStringLiteral("%1/%2(%3).%4").arg(dir, stem, QString::number(n), format);
         ++n;
     }
 

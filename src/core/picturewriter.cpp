@@ -82,18 +82,14 @@ QString PictureWriter::formatProblem(const QString& format, const QSize& size)
                           "most %3 pixels on a side. Choose PNG or a smaller scale.")
                      : tr("The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at "
                           "most %3 pixels on a side. Choose PNG or a smaller scale."))
-            .arg(size.width())
-            .arg(size.height())
-            .arg(kWebpMaxSide);
+            .arg(QString::number(size.width()), QString::number(size.height()), QString::number(kWebpMaxSide));
     }
     if ((codec == "jpg" || codec == "jpeg") && longest > kJpegMaxSide) {
         return (tall ? tr("The picture is too tall for JPG: %1x%2 pixels, and JPG holds at "
                           "most %3 pixels on a side. Choose PNG or a smaller scale.")
                      : tr("The picture is too wide for JPG: %1x%2 pixels, and JPG holds at "
                           "most %3 pixels on a side. Choose PNG or a smaller scale."))
-            .arg(size.width())
-            .arg(size.height())
-            .arg(kJpegMaxSide);
+            .arg(QString::number(size.width()), QString::number(size.height()), QString::number(kJpegMaxSide));
     }
     return QString();
 }

@@ -95,8 +95,7 @@ void ProcessThread::run()
     qDebug() << "Rum command" << m_process->workingDirectory() << m_program << m_arguments;
     if (!m_process->waitForStarted(30000)) {
         qDebug().noquote() << tr("Failed to start process %1. exit code %2")
-                                  .arg(m_processId)
-                                  .arg(m_process->exitCode());
+                                  .arg(QString::number(m_processId), QString::number(m_process->exitCode()));
         emit processFailed();
         return;
     }

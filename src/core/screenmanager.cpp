@@ -148,17 +148,11 @@ void ScreenManager::updateWidgetInNewScreen(QWidget* widget)
     widget->setGeometry(n);
     widget->adjustSize();
     qDebug().noquote() << QStringLiteral("name=%1, x=%2, y=%3, width=%4, height=%5")
-                              .arg(widget->objectName())
-                              .arg(g.x())
-                              .arg(g.y())
-                              .arg(g.width())
-                              .arg(g.height());
+                              .arg(widget->objectName(), QString::number(g.x()), QString::number(g.y()),
+                                   QString::number(g.width()), QString::number(g.height()));
     qDebug().noquote() << QStringLiteral("name=%1, x=%2, y=%3, width=%4, height=%5")
-                              .arg(widget->objectName())
-                              .arg(n.x())
-                              .arg(n.y())
-                              .arg(n.width())
-                              .arg(n.height());
+                              .arg(widget->objectName(), QString::number(n.x()), QString::number(n.y()),
+                                   QString::number(n.width()), QString::number(n.height()));
 }
 
 void ScreenManager::updateWidgetChildrenInNewScreen(QWidget* widget)

@@ -63,7 +63,7 @@ void ImageViewDialog::changePixmap(const QPixmap& pixmap, int zoomType)
     m_canvas->setZoomType(zoomType);
     m_fitButton->setChecked(m_canvas->zoomType() == ImageCanvas::Fit);
     m_actualButton->setChecked(m_canvas->zoomType() == ImageCanvas::Actual);
-    m_sizeLabel->setText(QStringLiteral("%1x%2").arg(pixmap.width()).arg(pixmap.height()));
+    m_sizeLabel->setText(QStringLiteral("%1x%2").arg(QString::number(pixmap.width()), QString::number(pixmap.height())));
     m_exportButton->setEnabled(!pixmap.isNull());
 }
 

@@ -356,7 +356,8 @@ void PreviewWidget::showImage()
         m_sizeLabel->clear();
     } else {
         m_canvas->setPicture(m_compositeSize, m_canvas->pixmap());
-        m_sizeLabel->setText(QStringLiteral("%1x%2").arg(m_compositeSize.width()).arg(m_compositeSize.height()));
+        m_sizeLabel->setText(QStringLiteral("%1x%2").arg(QString::number(m_compositeSize.width()),
+                                                         QString::number(m_compositeSize.height())));
     }
     const bool canShow = !items.isEmpty() && !m_compositeSize.isEmpty();
     m_saveFileBar->exportButton()->setEnabled(canShow && !m_exporter->isRunning());

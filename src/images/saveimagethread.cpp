@@ -71,7 +71,7 @@ void SaveImageThread::run()
         if (image.isNull()) {
             continue;
         }
-        const QString name = QStringLiteral("/%3_%1.%2").arg(i + 1).arg(ext.toLower(), base);
+        const QString name = QStringLiteral("/%3_%1.%2").arg(QString::number(i + 1), ext.toLower(), base);
         if (!registered) {
             GlobalManager::changeImageWithWaterMark(image, AppConfig::APP_NAME);
         }

@@ -98,7 +98,7 @@ QImage FrameGrabber::imageFromScreenshot(const mpv_node& result, QByteArray* pro
     const bool shortData = stride > 0 && data->size < static_cast<size_t>(stride) * static_cast<size_t>(h - 1) + rowBytes;
     if (w <= 0 || h <= 0 || std::abs(stride) < rowBytes || shortData) {
         if (problem) {
-            *problem = QStringLiteral("bad geometry %1 %2 %3").arg(w).arg(h).arg(stride).toUtf8();
+            *problem = QStringLiteral("bad geometry %1 %2 %3").arg(QString::number(w), QString::number(h), QString::number(stride)).toUtf8();
         }
         return QImage();
     }

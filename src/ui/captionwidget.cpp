@@ -433,7 +433,7 @@ void CaptionWidget::updateSelectAllText()
     } else {
         m_selectAll->setCheckState(Qt::PartiallyChecked);
     }
-    m_selectAll->setText(all.isEmpty() ? tr("Select all") : tr("Select all (%1/%2)").arg(checked).arg(all.size()));
+    m_selectAll->setText(all.isEmpty() ? tr("Select all") : tr("Select all (%1/%2)").arg(QString::number(checked), QString::number(all.size())));
 }
 
 void CaptionWidget::changeCaptureString(const QString& text)

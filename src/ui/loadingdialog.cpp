@@ -54,6 +54,27 @@ void LoadingDialog::showWithText(const QString& text)
     raise();
 }
 
+void LoadingDialog::setProgress(int percent)
+{
+    if (percent < 0) {
+        m_busy->setRange(0, 0);
+        return;
+    }
+    m_busy->setRange(0, 100);
+    m_busy->setValue(qBound(0, percent, 100));
+}
+
+int LoadingDialog::progress() const
+{
+    return m_busy->maximum() == 0 ? -1 : m_busy->value();
+}
+
+void LoadingDialog::hideAndReset()
+{
+    hide();
+    setProgress(-1);
+}
+
 void LoadingDialog::changeLang(int type)
 {
     Q_UNUSED(type)

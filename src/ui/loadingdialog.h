@@ -20,6 +20,11 @@ public:
     // Shows the dialog with a text; a visible dialog just changes its text.
     void showWithText(const QString& text);
     QPushButton* cancelButton() const { return m_cancel; }
+    // A bar filled to percent; -1 for the busy indicator.
+    void setProgress(int percent);
+    int progress() const;
+    // Hides the dialog and puts the busy indicator back for the next user.
+    void hideAndReset();
 
 public slots:
     void changeLang(int type);

@@ -105,13 +105,23 @@ void WindowFlows::initAutoCaptions()
 void WindowFlows::initCaptionFiles()
 {
     m_captionFiles = new CaptionFileFlow(m_parts.window);
-    connect(m_captionFiles, &CaptionFileFlow::finished, this, [this](const QString& assPath, const QString& problem) {
-        m_parts.captions->createCaption(QByteArray());
-        if (!problem.isEmpty()) {
-            showMessage(tr("No captions loaded"), problem);
-        }
-        m_parts.player->loadSubTitleFile(assPath);
+    LoadingDialog* loading = m_parts.loading;
+    connect(m_captionFiles, &CaptionFileFlow::progress, loading, [loading](const QString& text, int percent) {
+        loading->showWithText(text);
+        loading->setProgress(percent);
     });
+    // Cancel gives up the load; the dialog then closes itself.
+    connect(loading, &QDialog::rejected, m_captionFiles, &CaptionFileFlow::cancel);
+    connect(m_captionFiles, &CaptionFileFlow::cancelled, loading, &LoadingDialog::hideAndReset);
+    connect(m_captionFiles, &CaptionFileFlow::finished, this,
+            [this, loading](const QString& assPath, const QString& title, const QString& problem) {
+                loading->hideAndReset();
+                m_parts.captions->createCaption(QByteArray());
+                if (!problem.isEmpty()) {
+                    showMessage(title, problem);
+                }
+                m_parts.player->loadSubTitleFile(assPath);
+            });
 }
 
 void WindowFlows::initExports()
