@@ -1,5 +1,12 @@
 #include "testsupport.h"
 
+#include "confirmation.h"
+
+#include <QApplication>
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QTimer>
+
 #include "appconfig.h"
 #include "captionmanager.h"
 
@@ -226,6 +233,33 @@ bool makeSpeechMp3(const QStringList& wavs, const QString& output)
          << QStringLiteral("16000") << QStringLiteral("-ac") << QStringLiteral("1") << QStringLiteral("-format")
          << QStringLiteral("wav") << output;
     return ffmpeg(args) == 0;
+}
+
+// Answers the next confirmation with the button whose text starts with answer;
+// the question it asked lands in question.
+void answerConfirmation(const QString& answer, QString* question)
+{
+    auto* poll = new QTimer;
+    QObject::connect(poll, &QTimer::timeout, [poll, answer, question]() {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* box = qobject_cast<QMessageBox*>(widget);
+            if (!box || !box->isVisible() || box->objectName() != QLatin1String(Confirmation::kObjectName)) {
+                continue;
+            }
+            poll->deleteLater();
+            poll->stop();
+            if (question) {
+                *question = box->text();
+            }
+            for (QAbstractButton* button : box->buttons()) {
+                if (button->text().startsWith(answer)) {
+                    button->click();
+                }
+            }
+            return;
+        }
+    });
+    poll->start(20);
 }
 
 } // namespace TestSupport

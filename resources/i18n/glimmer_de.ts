@@ -142,6 +142,14 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>In „%1“ wurden keine Untertitel gefunden.</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>Untertitel werden als .srt- oder .ass-Datei gespeichert; „%1“ ist keines von beiden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>„%1“ konnte nicht geschrieben werden: %2</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -256,6 +264,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Alle auswählen (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Untertitel löschen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>%Ln Untertitel entfernen?</numerusform>
+            <numerusform>Alle %Ln Untertitel entfernen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -338,6 +361,13 @@
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>DownloadManager</name>
     <message>
         <source>The download tool could not be started: %1</source>
@@ -351,9 +381,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>Das Download-Programm wurde beendet, bevor der Download abgeschlossen war.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -453,6 +480,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Alle Bilder mit dem aktuellen Untertitelstil neu erfassen</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Bilder löschen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>%Ln Bild entfernen?</numerusform>
+            <numerusform>Alle %Ln Bilder entfernen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
@@ -566,6 +608,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>Das Bild ist leer.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Dieses System kann keine %1-Bilder schreiben. Wählen Sie PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu hoch für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu breit für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu hoch für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>Das Bild ist zu breit für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Die Datei kann nicht angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Das Bild konnte nicht geschrieben werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +695,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>Die Skalierung ist 0: Es gibt kein Bild zum Exportieren.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>Das Bild ist leer.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Dieses System kann keine %1-Bilder schreiben. Wählen Sie PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu hoch für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu breit für WEBP: %1×%2 Pixel, WEBP erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu hoch für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>Das Bild ist zu breit für JPG: %1×%2 Pixel, JPG erlaubt höchstens %3 Pixel pro Seite. Wählen Sie PNG oder eine kleinere Skalierung.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Die Datei kann nicht angelegt werden: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Das Bild konnte nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -829,6 +871,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Untertitel laden</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Automatische Untertitel</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Bilder löschen</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Bild löschen</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Bilder neu aufnehmen</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -919,6 +1000,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>An der aktuellen Stelle gibt es bereits einen Untertitel. Gehen Sie zu einer Stelle ohne Untertitel.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Stil aller Untertitel ändern</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Untertitel bearbeiten</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Untertitel erstellen</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Untertiteltext bearbeiten</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Untertitel löschen</translation>
     </message>
 </context>
 <context>

@@ -142,6 +142,14 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>No captions were found in &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>&quot;%1&quot; could not be written: %2</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -256,6 +264,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Select all (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Clear captions</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>Remove %Ln caption?</numerusform>
+            <numerusform>Remove all %Ln captions?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -338,6 +361,13 @@
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>DownloadManager</name>
     <message>
         <source>The download tool could not be started: %1</source>
@@ -351,9 +381,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>The download tool stopped before the download was complete.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -453,6 +480,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Capture every frame again with the current caption style</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Clear frames</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>Remove %Ln frame?</numerusform>
+            <numerusform>Remove all %Ln frames?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
     </message>
 </context>
 <context>
@@ -566,6 +608,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>The picture is empty.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>This system cannot write %1 pictures. Choose PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Cannot create the file: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Writing the picture failed: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +695,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>The scale is 0: there is no picture to export.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>The picture is empty.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>This system cannot write %1 pictures. Choose PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Cannot create the file: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Writing the picture failed: %1</translation>
     </message>
 </context>
 <context>
@@ -829,6 +871,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Undo %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Redo %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Load subtitles</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Automatic captions</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Clear frames</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Delete frame</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Re-capture frames</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -919,6 +1000,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>A caption already covers the current time. Move to a moment without a caption.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Edit the style of all captions</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Edit caption</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Create caption</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Edit caption text</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Clear captions</translation>
     </message>
 </context>
 <context>

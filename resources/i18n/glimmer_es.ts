@@ -142,6 +142,14 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>No se han encontrado subtítulos en «%1».</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>Los subtítulos se guardan como archivos .srt o .ass; «%1» no es ninguno de ellos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>No se pudo escribir «%1»: %2</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -256,6 +264,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Seleccionar todo (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Borrar subtítulos</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>¿Quitar %Ln subtítulo?</numerusform>
+            <numerusform>¿Quitar los %Ln subtítulos?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -338,6 +361,13 @@
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>DownloadManager</name>
     <message>
         <source>The download tool could not be started: %1</source>
@@ -351,9 +381,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>La herramienta de descarga se detuvo antes de completar la descarga.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -453,6 +480,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Volver a capturar todos los fotogramas con el estilo de subtítulo actual</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Borrar fotogramas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>¿Quitar %Ln fotograma?</numerusform>
+            <numerusform>¿Quitar los %Ln fotogramas?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
     </message>
 </context>
 <context>
@@ -566,6 +608,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>La imagen está vacía.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Este sistema no puede guardar imágenes %1. Elija PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado alta para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado ancha para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado alta para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>La imagen es demasiado ancha para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>No se puede crear el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>No se ha podido guardar la imagen: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +695,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>La escala es 0: no hay ninguna imagen que exportar.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>La imagen está vacía.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Este sistema no puede guardar imágenes %1. Elija PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado alta para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado ancha para WEBP: %1×%2 píxeles, y WEBP admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado alta para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>La imagen es demasiado ancha para JPG: %1×%2 píxeles, y JPG admite como máximo %3 píxeles por lado. Elija PNG o una escala menor.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>No se puede crear el archivo: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>No se ha podido guardar la imagen: %1</translation>
     </message>
 </context>
 <context>
@@ -829,6 +871,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Deshacer: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rehacer: %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Cargar subtítulos</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Subtítulos automáticos</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Borrar fotogramas</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Eliminar fotograma</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Recapturar fotogramas</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -919,6 +1000,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>Ya hay un subtítulo en el momento actual. Vaya a un momento sin subtítulo.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Editar el estilo de todos los subtítulos</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Editar subtítulo</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Crear subtítulo</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Editar texto del subtítulo</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Borrar subtítulos</translation>
     </message>
 </context>
 <context>

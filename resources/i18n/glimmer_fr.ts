@@ -142,6 +142,14 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>Aucun sous-titre trouvé dans « %1 ».</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>Les sous-titres s’enregistrent en fichier .srt ou .ass ; « %1 » n’est ni l’un ni l’autre.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>Impossible d’écrire « %1 » : %2</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -256,6 +264,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Tout sélectionner (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Effacer les sous-titres</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>Supprimer %Ln sous-titre ?</numerusform>
+            <numerusform>Supprimer les %Ln sous-titres ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -338,6 +361,13 @@
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>DownloadManager</name>
     <message>
         <source>The download tool could not be started: %1</source>
@@ -351,9 +381,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>L’outil de téléchargement s’est arrêté avant la fin du téléchargement.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -453,6 +480,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Capturer à nouveau toutes les images avec le style de sous-titre actuel</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Effacer les images</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>Supprimer %Ln image ?</numerusform>
+            <numerusform>Supprimer les %Ln images ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>
@@ -566,6 +608,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>L’image est vide.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Ce système ne peut pas enregistrer d’images %1. Choisissez PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop haute pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop large pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop haute pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’image est trop large pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Impossible de créer le fichier : %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>L’écriture de l’image a échoué : %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +695,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>L’échelle est à 0 : il n’y a aucune image à exporter.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>L’image est vide.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Ce système ne peut pas enregistrer d’images %1. Choisissez PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop haute pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop large pour le WEBP : %1×%2 pixels, alors que le WEBP accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop haute pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’image est trop large pour le JPG : %1×%2 pixels, alors que le JPG accepte au plus %3 pixels de côté. Choisissez PNG ou une échelle plus petite.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossible de créer le fichier : %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>L’écriture de l’image a échoué : %1</translation>
     </message>
 </context>
 <context>
@@ -829,6 +871,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Charger les sous-titres</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Sous-titres automatiques</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Effacer les images</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Supprimer l’image</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Recapturer les images</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -919,6 +1000,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>Un sous-titre couvre déjà l’instant actuel. Placez-vous à un moment sans sous-titre.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Modifier le style de tous les sous-titres</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Modifier le sous-titre</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Créer un sous-titre</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Modifier le texte du sous-titre</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Effacer les sous-titres</translation>
     </message>
 </context>
 <context>

@@ -142,6 +142,14 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>在「%1」中找不到字幕。</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>字幕只能儲存為 .srt 或 .ass 檔案，「%1」兩者都不是。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>無法寫入「%1」：%2</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -256,6 +264,20 @@
         <source>Select all (%1/%2)</source>
         <translation>全選（%1/%2）</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>清除字幕</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>要刪除全部 %Ln 條字幕嗎？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>刪除</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -338,6 +360,13 @@
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>DownloadManager</name>
     <message>
         <source>The download tool could not be started: %1</source>
@@ -351,9 +380,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>下載工具在下載完成前停止了。</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -451,6 +477,20 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>以目前字幕樣式重新擷取所有畫面</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>清除畫面</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>要刪除全部 %Ln 張畫面嗎？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>刪除</translation>
     </message>
 </context>
 <context>
@@ -564,6 +604,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>圖片是空的。</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>此系統無法寫入 %1 圖片，請選擇 PNG。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太高，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太寬，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太高，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>圖片太寬，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>無法建立檔案：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>寫入圖片失敗：%1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -616,41 +691,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>縮放比例為 0，沒有可匯出的圖片。</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>圖片是空的。</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>此系統無法寫入 %1 圖片，請選擇 PNG。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太高，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太寬，無法儲存為 WEBP：%1×%2 像素，而 WEBP 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太高，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>圖片太寬，無法儲存為 JPG：%1×%2 像素，而 JPG 每邊最多 %3 像素。請選擇 PNG 或較小的縮放比例。</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>無法建立檔案：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>寫入圖片失敗：%1</translation>
     </message>
 </context>
 <context>
@@ -827,6 +867,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>復原</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>復原：%1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>重做：%1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>載入字幕</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>自動字幕</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>清除畫面</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>刪除畫面</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>重新擷取畫面</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -916,6 +995,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>目前時間已有字幕，請移到沒有字幕的時間點。</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>修改全部字幕樣式</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>編輯字幕</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>新增字幕</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>編輯字幕文字</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>清除字幕</translation>
     </message>
 </context>
 <context>

@@ -142,6 +142,14 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>Nessun sottotitolo trovato in &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>I sottotitoli si salvano come file .srt o .ass; «%1» non è né l’uno né l’altro.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>Impossibile scrivere «%1»: %2</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -256,6 +264,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Seleziona tutto (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Cancella sottotitoli</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>Rimuovere %Ln sottotitolo?</numerusform>
+            <numerusform>Rimuovere tutti i %Ln sottotitoli?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -338,6 +361,13 @@
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>DownloadManager</name>
     <message>
         <source>The download tool could not be started: %1</source>
@@ -351,9 +381,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>Lo strumento di download si è interrotto prima del completamento.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -453,6 +480,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Cattura di nuovo tutti i fotogrammi con lo stile di sottotitolo attuale</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Cancella fotogrammi</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>Rimuovere %Ln fotogramma?</numerusform>
+            <numerusform>Rimuovere tutti i %Ln fotogrammi?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
     </message>
 </context>
 <context>
@@ -566,6 +608,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>L’immagine è vuota.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Questo sistema non può salvare immagini %1. Scegli PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo alta per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo larga per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo alta per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>L’immagine è troppo larga per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Impossibile creare il file: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Scrittura dell’immagine non riuscita: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +695,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>La scala è 0: non c’è alcuna immagine da esportare.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>L’immagine è vuota.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Questo sistema non può salvare immagini %1. Scegli PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo alta per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo larga per WEBP: %1×%2 pixel, e WEBP ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo alta per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>L’immagine è troppo larga per JPG: %1×%2 pixel, e JPG ammette al massimo %3 pixel per lato. Scegli PNG o una scala più piccola.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossibile creare il file: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Scrittura dell’immagine non riuscita: %1</translation>
     </message>
 </context>
 <context>
@@ -829,6 +871,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annulla: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Ripeti: %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Carica sottotitoli</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Sottotitoli automatici</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Cancella fotogrammi</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Elimina fotogramma</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Ricattura fotogrammi</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -919,6 +1000,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>Nel punto attuale c’è già un sottotitolo. Spostati in un punto senza sottotitoli.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Modifica lo stile di tutti i sottotitoli</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Modifica sottotitolo</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Crea sottotitolo</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Modifica testo del sottotitolo</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Cancella sottotitoli</translation>
     </message>
 </context>
 <context>

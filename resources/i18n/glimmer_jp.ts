@@ -142,6 +142,14 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>「%1」に字幕が見つかりませんでした。</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>字幕は .srt または .ass ファイルとして保存します。「%1」はどちらでもありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>「%1」を書き込めませんでした: %2</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -256,6 +264,20 @@
         <source>Select all (%1/%2)</source>
         <translation>すべて選択（%1/%2）</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>字幕をすべて削除</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>%Ln 件の字幕をすべて削除しますか？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -338,6 +360,13 @@
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
     <name>DownloadManager</name>
     <message>
         <source>The download tool could not be started: %1</source>
@@ -351,9 +380,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>ダウンロードが完了する前にダウンロードツールが停止しました。</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -451,6 +477,20 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>現在の字幕スタイルですべてのフレームをキャプチャし直す</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>フレームをすべて削除</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>%Ln 枚のフレームをすべて削除しますか？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
     </message>
 </context>
 <context>
@@ -564,6 +604,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>画像が空です。</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>このシステムでは %1 画像を書き出せません。PNG を選んでください。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が縦に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が横に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が縦に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>画像が横に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>ファイルを作成できません：%1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>画像の書き込みに失敗しました：%1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -616,41 +691,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>倍率が 0 のため、エクスポートする画像がありません。</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>画像が空です。</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>このシステムでは %1 画像を書き出せません。PNG を選んでください。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が縦に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が横に大きすぎて WEBP にできません：%1×%2 ピクセルですが、WEBP は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が縦に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>画像が横に大きすぎて JPG にできません：%1×%2 ピクセルですが、JPG は一辺 %3 ピクセルまでです。PNG を選ぶか、倍率を下げてください。</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>ファイルを作成できません：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>画像の書き込みに失敗しました：%1</translation>
     </message>
 </context>
 <context>
@@ -827,6 +867,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>元に戻す: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>やり直す: %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>字幕の読み込み</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>自動字幕</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>フレームをすべて削除</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>フレームの削除</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>フレームの再キャプチャ</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -916,6 +995,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>現在の位置にはすでに字幕があります。字幕のない位置に移動してください。</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>すべての字幕のスタイル変更</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>字幕の編集</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>字幕の作成</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>字幕テキストの編集</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>字幕をすべて削除</translation>
     </message>
 </context>
 <context>

@@ -142,6 +142,14 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>Nenhuma legenda foi encontrada em &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>As legendas são guardadas como ficheiros .srt ou .ass; &quot;%1&quot; não é nenhum deles.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>Não foi possível escrever &quot;%1&quot;: %2</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -256,6 +264,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Selecionar tudo (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Limpar legendas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>Remover %Ln legenda?</numerusform>
+            <numerusform>Remover todas as %Ln legendas?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -338,6 +361,13 @@
     </message>
 </context>
 <context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>DownloadManager</name>
     <message>
         <source>The download tool could not be started: %1</source>
@@ -351,9 +381,6 @@
         <source>The download tool stopped before the download was complete.</source>
         <translation>A ferramenta de download parou antes de concluir o download.</translation>
     </message>
-</context>
-<context>
-    <name>GlobalManager</name>
 </context>
 <context>
     <name>HttpManager</name>
@@ -453,6 +480,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Capturar novamente todos os quadros com o estilo de legenda atual</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Limpar fotogramas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>Remover %Ln fotograma?</numerusform>
+            <numerusform>Remover todos os %Ln fotogramas?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
     </message>
 </context>
 <context>
@@ -566,6 +608,41 @@
     </message>
 </context>
 <context>
+    <name>PictureWriter</name>
+    <message>
+        <source>The picture is empty.</source>
+        <translation>A imagem está vazia.</translation>
+    </message>
+    <message>
+        <source>This system cannot write %1 pictures. Choose PNG.</source>
+        <translation>Este sistema não consegue gravar imagens %1. Escolha PNG.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é alta demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é larga demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é alta demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
+        <translation>A imagem é larga demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
+    </message>
+    <message>
+        <source>Cannot create the file: %1</source>
+        <translation>Não é possível criar o arquivo: %1</translation>
+    </message>
+    <message>
+        <source>Writing the picture failed: %1</source>
+        <translation>Falha ao gravar a imagem: %1</translation>
+    </message>
+</context>
+<context>
     <name>PreviewWidget</name>
     <message>
         <source>Layout:</source>
@@ -618,41 +695,6 @@
     <message>
         <source>The scale is 0: there is no picture to export.</source>
         <translation>A escala é 0: não há imagem para exportar.</translation>
-    </message>
-</context>
-<context>
-    <name>PictureWriter</name>
-    <message>
-        <source>The picture is empty.</source>
-        <translation>A imagem está vazia.</translation>
-    </message>
-    <message>
-        <source>This system cannot write %1 pictures. Choose PNG.</source>
-        <translation>Este sistema não consegue gravar imagens %1. Escolha PNG.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é alta demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for WEBP: %1x%2 pixels, and WEBP holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é larga demais para WEBP: %1×%2 pixels, e o WEBP aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too tall for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é alta demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>The picture is too wide for JPG: %1x%2 pixels, and JPG holds at most %3 pixels on a side. Choose PNG or a smaller scale.</source>
-        <translation>A imagem é larga demais para JPG: %1×%2 pixels, e o JPG aceita no máximo %3 pixels por lado. Escolha PNG ou uma escala menor.</translation>
-    </message>
-    <message>
-        <source>Cannot create the file: %1</source>
-        <translation>Não é possível criar o arquivo: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Falha ao gravar a imagem: %1</translation>
     </message>
 </context>
 <context>
@@ -829,6 +871,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Anular</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Anular: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refazer</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Refazer: %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Carregar legendas</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Legendas automáticas</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Limpar fotogramas</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Eliminar fotograma</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Recapturar fotogramas</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -919,6 +1000,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>Já existe uma legenda no momento atual. Vá para um momento sem legenda.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Editar o estilo de todas as legendas</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Editar legenda</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Criar legenda</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Editar texto da legenda</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Limpar legendas</translation>
     </message>
 </context>
 <context>

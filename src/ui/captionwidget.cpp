@@ -4,6 +4,7 @@
 #include "captioninfo.h"
 #include "captionitem.h"
 #include "captionmanager.h"
+#include "confirmation.h"
 #include "globalmanager.h"
 #include "settings.h"
 
@@ -151,7 +152,16 @@ void CaptionWidget::buildUi()
     });
     connect(m_createButton, &QPushButton::clicked, this, &CaptionWidget::createCaptionSignal);
     connect(m_localButton, &QPushButton::clicked, this, &CaptionWidget::loadLocalSubtitleSignal);
-    connect(m_clearButton, &QPushButton::clicked, this, &CaptionWidget::clearCaptionSignal);
+    connect(m_clearButton, &QPushButton::clicked, this, [this]() {
+        // Every caption goes, ticked or not: say how many before they do.
+        const int count = CaptionManager::instance()->getCaptions().size();
+        if (count > 0
+            && !Confirmation::ask(window(), tr("Clear captions"), tr("Remove all %Ln captions?", nullptr, count),
+                                  tr("Remove"))) {
+            return;
+        }
+        emit clearCaptionSignal();
+    });
     connect(m_captureButton, &QPushButton::clicked, this, [this]() { emit captureSelectSignal(0); });
     connect(m_selectAll, &QCheckBox::clicked, this, [this](bool checked) {
         for (CaptionInfo* info : CaptionManager::instance()->getCaptions()) {

@@ -74,6 +74,7 @@ void MainWindow::initialize()
     });
     m_flows = new WindowFlows({this, m_videoPlayWidget, m_imagesWidget, m_previewWidget, m_captionWidget,
                                m_loadingDialog, m_messageDialog});
+    m_flows->addActions(m_menu);
     connect(m_flows, &WindowFlows::captureCheckedFinished, this, &MainWindow::captureSelectFinished);
     connect(m_flows, &WindowFlows::recaptureFinished, this, &MainWindow::recaptureFinished);
 
@@ -174,9 +175,6 @@ void MainWindow::initCaptionWidget()
 {
     m_captionWidget = new CaptionWidget(this);
     connect(m_captionWidget, &CaptionWidget::loadLocalSubtitleSignal, this, &MainWindow::addLocalSubtitle);
-    connect(m_captionWidget, &CaptionWidget::clearCaptionSignal, this, [this]() {
-        GlobalManager::instance()->emitEvent(AppConfig::REMOVE_CAPTION, QString());
-    });
 }
 
 void MainWindow::initMenu()

@@ -1,5 +1,6 @@
 #include "windowflows.h"
 
+#include "appconfig.h"
 #include "autocaptionflow.h"
 #include "captioninfo.h"
 #include "captioneditor.h"
@@ -11,23 +12,28 @@
 #include "imageitem.h"
 #include "imageswidget.h"
 #include "loadingdialog.h"
+#include "mainmenu.h"
 #include "messagedialog.h"
 #include "playercapturesource.h"
 #include "previewwidget.h"
 #include "registerguidedialog.h"
+#include "undohistory.h"
 #include "videoplaywidget.h"
 
 #include <QDebug>
+#include <QAction>
 #include <QPushButton>
 
 WindowFlows::WindowFlows(const Parts& parts)
     : QObject(parts.window)
     , m_parts(parts)
 {
+    m_history = new UndoHistory(parts.strip, this);
     initCapture();
     initAutoCaptions();
     initCaptionFiles();
     initExports();
+    initHistory();
 }
 
 void WindowFlows::showMessage(const QString& title, const QString& message)
@@ -42,8 +48,26 @@ void WindowFlows::initCapture()
     auto* source = new PlayerCaptureSource(player);
     m_capture = new CaptureController(source, m_parts.strip, this);
     m_editor = new CaptionEditor(source, m_capture, this);
-    connect(player, &VideoPlayWidget::captionEditSignal, m_editor, &CaptionEditor::styleEdited);
-    connect(m_parts.captions, &CaptionWidget::captionTextChangedSignal, m_editor, &CaptionEditor::textEdited);
+    connect(player, &VideoPlayWidget::captionEditSignal, this, [this](CaptionInfo* caption, bool isAll) {
+        QString text = isAll ? tr("Edit the style of all captions") : tr("Edit caption");
+        if (caption && caption->isInsert && caption->editMarks.isEmpty()) {
+            text = tr("Create caption");
+        }
+        m_history->recordCaptions(text, [this, caption, isAll]() { m_editor->styleEdited(caption, isAll); });
+    });
+    connect(m_parts.captions, &CaptionWidget::captionTextChangedSignal, this, [this](CaptionInfo* caption) {
+        if (!caption) {
+            // Ticks and shown texts are no step of their own.
+            m_editor->textEdited(nullptr);
+            return;
+        }
+        m_history->recordCaptions(tr("Edit caption text"), [this, caption]() { m_editor->textEdited(caption); });
+    });
+    connect(m_parts.captions, &CaptionWidget::clearCaptionSignal, this, [this]() {
+        m_history->recordCaptions(tr("Clear captions"), []() {
+            GlobalManager::instance()->emitEvent(AppConfig::REMOVE_CAPTION, QString());
+        });
+    });
     connect(m_editor, &CaptionEditor::captionChanged, m_parts.captions, &CaptionWidget::updateCaptionItem);
 
     connect(m_parts.captions, &CaptionWidget::createCaptionSignal, this, [this]() {
@@ -105,6 +129,24 @@ void WindowFlows::initCaptionFiles()
             showMessage(tr("No captions loaded"), problem);
         }
         m_parts.player->loadSubTitleFile(assPath);
+        m_history->captionsLoaded(assPath);
+    });
+}
+
+void WindowFlows::addActions(MainMenu* menu)
+{
+    const QList<QAction*> actions{m_history->undoAction(), m_history->redoAction()};
+    menu->addEditActions(actions);
+    m_parts.window->addActions(actions);
+}
+
+void WindowFlows::initHistory()
+{
+    connect(m_capture, &CaptureController::framesRecaptured, m_history, &UndoHistory::framesRecaptured);
+    connect(m_history, &UndoHistory::captionsRestored, this, [this]() {
+        m_capture->forgetEdit();
+        m_parts.captions->createCaption(QByteArray());
+        m_parts.captions->updateSelectAllText();
     });
 }
 

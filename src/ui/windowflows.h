@@ -11,8 +11,10 @@ class CaptionWidget;
 class CaptureController;
 class ImagesWidget;
 class LoadingDialog;
+class MainMenu;
 class MessageDialog;
 class PreviewWidget;
+class UndoHistory;
 class VideoPlayWidget;
 class QWidget;
 
@@ -40,8 +42,12 @@ public:
     AutoCaptionFlow* autoCaptions() const { return m_autoCaptions; }
     CaptionFileFlow* captionFiles() const { return m_captionFiles; }
     CaptionEditor* editor() const { return m_editor; }
+    UndoHistory* history() const { return m_history; }
 
     void showMessage(const QString& title, const QString& message);
+    // Puts the flows' own actions into the menu and makes their shortcuts
+    // work anywhere in the window.
+    void addActions(MainMenu* menu);
 
 signals:
     // Every ticked caption was captured.
@@ -54,12 +60,14 @@ private:
     void initAutoCaptions();
     void initCaptionFiles();
     void initExports();
+    void initHistory();
 
     Parts m_parts;
     CaptureController* m_capture = nullptr;
     CaptionEditor* m_editor = nullptr;
     AutoCaptionFlow* m_autoCaptions = nullptr;
     CaptionFileFlow* m_captionFiles = nullptr;
+    UndoHistory* m_history = nullptr;
 };
 
 #endif // WINDOWFLOWS_H
