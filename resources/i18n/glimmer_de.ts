@@ -152,6 +152,33 @@
     </message>
 </context>
 <context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Untertitel speichern</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Untertitel speichern unter...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>untertitel</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>SubRip-Untertitel (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>ASS-Untertitel (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>Die Untertitel wurden nicht gespeichert</translation>
+    </message>
+</context>
+<context>
     <name>CaptionStyleBar</name>
     <message>
         <source>Size</source>

@@ -152,6 +152,33 @@
     </message>
 </context>
 <context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Save captions</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Save captions as...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>captions</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>SubRip subtitles (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>ASS subtitles (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>The captions were not saved</translation>
+    </message>
+</context>
+<context>
     <name>CaptionStyleBar</name>
     <message>
         <source>Size</source>

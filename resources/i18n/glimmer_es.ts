@@ -152,6 +152,33 @@
     </message>
 </context>
 <context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Guardar subtítulos</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Guardar subtítulos como...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>subtitulos</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>Subtítulos SubRip (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>Subtítulos ASS (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>Los subtítulos no se guardaron</translation>
+    </message>
+</context>
+<context>
     <name>CaptionStyleBar</name>
     <message>
         <source>Size</source>

@@ -152,6 +152,33 @@
     </message>
 </context>
 <context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Enregistrer les sous-titres</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Enregistrer les sous-titres sous...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>sous-titres</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>Sous-titres SubRip (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>Sous-titres ASS (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>Les sous-titres n’ont pas été enregistrés</translation>
+    </message>
+</context>
+<context>
     <name>CaptionStyleBar</name>
     <message>
         <source>Size</source>

@@ -152,6 +152,33 @@
     </message>
 </context>
 <context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>儲存字幕</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>字幕另存為...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>SubRip 字幕 (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>ASS 字幕 (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>字幕未儲存</translation>
+    </message>
+</context>
+<context>
     <name>CaptionStyleBar</name>
     <message>
         <source>Size</source>

@@ -152,6 +152,33 @@
     </message>
 </context>
 <context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Salva sottotitoli</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Salva sottotitoli come...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>sottotitoli</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>Sottotitoli SubRip (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>Sottotitoli ASS (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>I sottotitoli non sono stati salvati</translation>
+    </message>
+</context>
+<context>
     <name>CaptionStyleBar</name>
     <message>
         <source>Size</source>

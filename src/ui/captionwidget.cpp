@@ -15,6 +15,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QStyle>
+#include <QToolButton>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -115,6 +118,7 @@ void CaptionWidget::buildUi()
     bottom->setContentsMargins(0, 0, 0, 0);
     bottom->setSpacing(AppConfig::rate(6));
     auto* selectRow = new QHBoxLayout();
+    m_selectRow = selectRow;
     selectRow->setSpacing(AppConfig::rate(4));
     selectRow->addWidget(m_selectAll, 1);
     selectRow->addWidget(m_showTextButton);
@@ -184,6 +188,21 @@ void CaptionWidget::buildUi()
         retranslate();
         emit captionTextChangedSignal(nullptr);
     });
+}
+
+void CaptionWidget::addSaveActions(QAction* save, QAction* saveAs)
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("save_captions"));
+    save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    button->setDefaultAction(save);
+    button->setIconSize(AppConfig::rate(QSize(16, 16)));
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    auto* menu = new QMenu(button);
+    menu->addActions({save, saveAs});
+    button->setMenu(menu);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+    m_selectRow->insertWidget(m_selectRow->indexOf(m_clearButton), button);
 }
 
 void CaptionWidget::fillLanguageBox()

@@ -5,6 +5,7 @@
 #include "captioninfo.h"
 #include "captioneditor.h"
 #include "captionfileflow.h"
+#include "captionsaveflow.h"
 #include "captionwidget.h"
 #include "capturecontroller.h"
 #include "globalmanager.h"
@@ -29,6 +30,8 @@ WindowFlows::WindowFlows(const Parts& parts)
     , m_parts(parts)
 {
     m_history = new UndoHistory(parts.strip, this);
+    m_saver = new CaptionSaveFlow(parts.window);
+    connect(m_saver, &CaptionSaveFlow::failed, this, &WindowFlows::showMessage);
     initCapture();
     initAutoCaptions();
     initCaptionFiles();
@@ -135,8 +138,10 @@ void WindowFlows::initCaptionFiles()
 
 void WindowFlows::addActions(MainMenu* menu)
 {
-    const QList<QAction*> actions{m_history->undoAction(), m_history->redoAction()};
+    const QList<QAction*> actions{m_saver->saveAction(), m_saver->saveAsAction(), m_history->undoAction(),
+                                  m_history->redoAction()};
     menu->addEditActions(actions);
+    m_parts.captions->addSaveActions(m_saver->saveAction(), m_saver->saveAsAction());
     m_parts.window->addActions(actions);
 }
 

@@ -7,6 +7,7 @@
 class AutoCaptionFlow;
 class CaptionEditor;
 class CaptionFileFlow;
+class CaptionSaveFlow;
 class CaptionWidget;
 class CaptureController;
 class ImagesWidget;
@@ -43,6 +44,7 @@ public:
     CaptionFileFlow* captionFiles() const { return m_captionFiles; }
     CaptionEditor* editor() const { return m_editor; }
     UndoHistory* history() const { return m_history; }
+    CaptionSaveFlow* captionSaver() const { return m_saver; }
 
     void showMessage(const QString& title, const QString& message);
     // Puts the flows' own actions into the menu and makes their shortcuts
@@ -68,6 +70,7 @@ private:
     AutoCaptionFlow* m_autoCaptions = nullptr;
     CaptionFileFlow* m_captionFiles = nullptr;
     UndoHistory* m_history = nullptr;
+    CaptionSaveFlow* m_saver = nullptr;
 };
 
 #endif // WINDOWFLOWS_H
