@@ -103,7 +103,9 @@ private slots:
 
     void cleanupTestCase()
     {
-        m_window->close();
+        if (m_window->isVisible()) {
+            m_window->close();
+        }
         delete m_window;
     }
 

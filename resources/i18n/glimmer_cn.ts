@@ -387,6 +387,39 @@
     </message>
 </context>
 <context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>字幕有尚未保存的修改。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln 张截取的画面从未导出，将会丢失。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>关闭 Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>保存字幕</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>仍然关闭</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
     <name>Confirmation</name>
     <message>
         <source>Cancel</source>

@@ -388,6 +388,40 @@
     </message>
 </context>
 <context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>Die Untertitel haben ungespeicherte Änderungen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln aufgenommenes Bild wurde nie exportiert und geht verloren.</numerusform>
+            <numerusform>%Ln aufgenommene Bilder wurden nie exportiert und gehen verloren.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Glimmer schließen</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Untertitel speichern</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Trotzdem schließen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>Confirmation</name>
     <message>
         <source>Cancel</source>

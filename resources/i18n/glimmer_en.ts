@@ -388,6 +388,40 @@
     </message>
 </context>
 <context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>The captions have changes that were not saved.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln captured frame was never exported and will be lost.</numerusform>
+            <numerusform>%Ln captured frames were never exported and will be lost.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Close Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Save captions</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Close anyway</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>Confirmation</name>
     <message>
         <source>Cancel</source>

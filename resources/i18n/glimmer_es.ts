@@ -388,6 +388,40 @@
     </message>
 </context>
 <context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>Los subtítulos tienen cambios sin guardar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln fotograma capturado nunca se exportó y se perderá.</numerusform>
+            <numerusform>%Ln fotogramas capturados nunca se exportaron y se perderán.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Cerrar Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Guardar subtítulos</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Cerrar de todos modos</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
     <name>Confirmation</name>
     <message>
         <source>Cancel</source>

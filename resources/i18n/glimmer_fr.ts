@@ -388,6 +388,40 @@
     </message>
 </context>
 <context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>Les sous-titres ont des modifications non enregistrées.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln image capturée n’a jamais été exportée et sera perdue.</numerusform>
+            <numerusform>%Ln images capturées n’ont jamais été exportées et seront perdues.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Fermer Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Enregistrer les sous-titres</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Fermer quand même</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
     <name>Confirmation</name>
     <message>
         <source>Cancel</source>

@@ -388,6 +388,40 @@
     </message>
 </context>
 <context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>I sottotitoli hanno modifiche non salvate.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln fotogramma catturato non è mai stato esportato e andrà perso.</numerusform>
+            <numerusform>%Ln fotogrammi catturati non sono mai stati esportati e andranno persi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Chiudi Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Salva sottotitoli</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Scarta</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Chiudi comunque</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
     <name>Confirmation</name>
     <message>
         <source>Cancel</source>

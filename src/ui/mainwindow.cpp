@@ -8,6 +8,7 @@
 #include "captionwidget.h"
 #include "capturecontroller.h"
 #include "checkupdatedialog.h"
+#include "closeguard.h"
 #include "globalmanager.h"
 #include "httpmanager.h"
 #include "imageswidget.h"
@@ -32,6 +33,8 @@
 #include <QTranslator>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <utility>
 
 MainWindow::MainWindow(QWidget* parent)
     : CFramelessWindow(parent)
@@ -268,6 +271,7 @@ void MainWindow::menuTapByType(int type)
         showCaptionWidget(!m_captionWidget->isVisible());
         break;
     case MainMenu::MenuQuit:
+        m_userClose = true;
         close();
         break;
     default:
@@ -296,7 +300,7 @@ void MainWindow::titleBarButtonClickedHandle(int type)
         toggleMaximized();
         break;
     case TitleBar::Close:
-        close();
+        menuTapByType(MainMenu::MenuQuit);
         break;
     default:
         break;
@@ -348,6 +352,11 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    const bool asked = std::exchange(m_userClose, false) || event->spontaneous();
+    if (asked && !m_flows->closeGuard()->confirmClose()) {
+        event->ignore();
+        return;
+    }
     quitAppFinishEvent();
     CFramelessWindow::closeEvent(event);
 }

@@ -6,6 +6,7 @@
 #include "captioneditor.h"
 #include "captionfileflow.h"
 #include "captionsaveflow.h"
+#include "closeguard.h"
 #include "captionwidget.h"
 #include "capturecontroller.h"
 #include "globalmanager.h"
@@ -32,6 +33,7 @@ WindowFlows::WindowFlows(const Parts& parts)
     m_history = new UndoHistory(parts.strip, this);
     m_saver = new CaptionSaveFlow(parts.window);
     connect(m_saver, &CaptionSaveFlow::failed, this, &WindowFlows::showMessage);
+    m_closeGuard = new CloseGuard(parts.window, parts.strip, m_saver);
     initCapture();
     initAutoCaptions();
     initCaptionFiles();
@@ -133,6 +135,7 @@ void WindowFlows::initCaptionFiles()
         }
         m_parts.player->loadSubTitleFile(assPath);
         m_history->captionsLoaded(assPath);
+        m_closeGuard->markCaptionsSaved();
     });
 }
 
@@ -159,6 +162,9 @@ void WindowFlows::initExports()
 {
     // One message for every failure of an export, from either panel.
     auto finished = [this](const QStringList& files, const QStringList& errors) {
+        if (!files.isEmpty()) {
+            m_closeGuard->markSelectionExported();
+        }
         if (!errors.isEmpty()) {
             showMessage(ImageExporter::summary(files, errors), errors.join(QLatin1Char('\n')));
         }

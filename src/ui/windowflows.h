@@ -8,6 +8,7 @@ class AutoCaptionFlow;
 class CaptionEditor;
 class CaptionFileFlow;
 class CaptionSaveFlow;
+class CloseGuard;
 class CaptionWidget;
 class CaptureController;
 class ImagesWidget;
@@ -45,6 +46,7 @@ public:
     CaptionEditor* editor() const { return m_editor; }
     UndoHistory* history() const { return m_history; }
     CaptionSaveFlow* captionSaver() const { return m_saver; }
+    CloseGuard* closeGuard() const { return m_closeGuard; }
 
     void showMessage(const QString& title, const QString& message);
     // Puts the flows' own actions into the menu and makes their shortcuts
@@ -71,6 +73,7 @@ private:
     CaptionFileFlow* m_captionFiles = nullptr;
     UndoHistory* m_history = nullptr;
     CaptionSaveFlow* m_saver = nullptr;
+    CloseGuard* m_closeGuard = nullptr;
 };
 
 #endif // WINDOWFLOWS_H
