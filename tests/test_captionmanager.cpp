@@ -6,6 +6,7 @@
 #include "testsupport.h"
 
 #include <QApplication>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QtTest>
@@ -442,6 +443,68 @@ private slots:
         m->replaceCaptions(taken);
         m->clearCaptions();
         QCOMPARE(CaptionInfo::liveCount(), before);
+    }
+
+    // Saved captions come back the same: SRT through ffmpeg's reader, ASS
+    // through ours and ffmpeg's (libass's own parser is what ffmpeg uses to
+    // read ASS here), with the styles and override blocks kept.
+    void savedCaptionsReloadTheSame()
+    {
+        m->createCaptions(utterances({{1230, 2340, QStringLiteral("First, with a comma")},
+                                      {3005, 4999, QStringLiteral("two\nlines")},
+                                      {3723450, 3725000, QStringLiteral("an hour in")}}),
+                          false);
+        CaptionInfo* first = m->getCaptions().first();
+        first->captionEdit->fontSize = 30;
+        m->changeCaptionNew(first, false);
+        QList<std::tuple<QString, int, int>> expected;
+        for (const CaptionInfo* info : m->getCaptions()) {
+            expected.append(std::make_tuple(info->text, info->startMs(), info->endMs()));
+        }
+        const QString dir = TestSupport::makeWorkDir(QStringLiteral("saved"));
+        auto reloaded = [this]() {
+            QList<std::tuple<QString, int, int>> got;
+            for (const CaptionInfo* info : m->getCaptions()) {
+                got.append(std::make_tuple(QString(info->text).replace(QStringLiteral("\\N"), QStringLiteral("\n")),
+                                           info->startMs(), info->endMs()));
+            }
+            return got;
+        };
+
+        QVERIFY(m->saveCaptionFile(dir + QStringLiteral("/out.srt")));
+        const QString srt = readText(dir + QStringLiteral("/out.srt"));
+        QVERIFY(srt.startsWith(QStringLiteral("1\n00:00:01,230 --> 00:00:02,340\nFirst, with a comma\n\n")));
+        QVERIFY(srt.contains(QStringLiteral("01:02:03,450 --> 01:02:05,000")));
+        QVERIFY(!srt.contains(QLatin1Char('{')));
+        QCOMPARE(TestSupport::ffmpeg({"-i", dir + "/out.srt", dir + "/fromsrt.ass"}), 0);
+        QCOMPARE(m->loadCaptionFile(dir + QStringLiteral("/fromsrt.ass")), 0);
+        QCOMPARE(reloaded(), expected);
+
+        QCOMPARE(m->loadCaptionFile(dir + QStringLiteral("/fromsrt.ass")), 0);
+        CaptionInfo* edited = m->getCaptions().first();
+        edited->captionEdit->fontSize = 30;
+        m->changeCaptionNew(edited, false);
+        QVERIFY(m->saveCaptionFile(dir + QStringLiteral("/out.ass")));
+        const QString ass = readText(dir + QStringLiteral("/out.ass"));
+        QVERIFY(ass.contains(QStringLiteral("{\\fs30\\bord")));
+        QVERIFY(ass.contains(QStringLiteral("Style: Default,")));
+        QCOMPARE(m->loadCaptionFile(dir + QStringLiteral("/out.ass")), 0);
+        QList<std::tuple<QString, int, int>> got;
+        for (const CaptionInfo* info : m->getCaptions()) {
+            QString text = info->text;
+            text.remove(QRegularExpression(QStringLiteral("\\{[^}]*\\}")));
+            got.append(std::make_tuple(text.replace(QStringLiteral("\\N"), QStringLiteral("\n")), info->startMs(),
+                                       info->endMs()));
+        }
+        QCOMPARE(got, expected);
+        QCOMPARE(TestSupport::ffmpeg({"-i", dir + "/out.ass", dir + "/fromass.srt"}), 0);
+        QCOMPARE(readText(dir + QStringLiteral("/fromass.srt")).count(QStringLiteral(" --> ")), 3);
+
+        // Failures say why and write nothing.
+        QVERIFY(!m->saveCaptionFile(dir + QStringLiteral("/out.txt")));
+        QVERIFY(m->lastError().contains(QStringLiteral("out.txt")));
+        QVERIFY(!m->saveCaptionFile(dir + QStringLiteral("/missing/out.srt")));
+        QVERIFY(m->lastError().contains(QStringLiteral("out.srt")));
     }
 
 private:

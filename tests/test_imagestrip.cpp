@@ -196,6 +196,12 @@ void TestImageStrip::listViewMirrorsAndDrivesStrip()
         QVERIFY(item->isSelect());
     }
 
+    QString question;
+    TestSupport::answerConfirmation(QStringLiteral("Cancel"), &question);
+    dialog->deleteAllButton()->click();
+    QCOMPARE(question, QStringLiteral("Remove all 3 frames?"));
+    QCOMPARE(m_strip->items().size(), 3);
+    TestSupport::answerConfirmation(QStringLiteral("Remove"));
     dialog->deleteAllButton()->click();
     QCOMPARE(events(), 4);
     QVERIFY(m_strip->items().isEmpty());

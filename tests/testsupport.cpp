@@ -1,5 +1,12 @@
 #include "testsupport.h"
 
+#include "confirmation.h"
+
+#include <QApplication>
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QTimer>
+
 #include "appconfig.h"
 #include "captionmanager.h"
 
@@ -235,6 +242,33 @@ void settleLayouts()
         QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
         QCoreApplication::processEvents();
     }
+}
+
+// Answers the next confirmation with the button whose text starts with answer;
+// the question it asked lands in question.
+void answerConfirmation(const QString& answer, QString* question)
+{
+    auto* poll = new QTimer;
+    QObject::connect(poll, &QTimer::timeout, [poll, answer, question]() {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* box = qobject_cast<QMessageBox*>(widget);
+            if (!box || !box->isVisible() || box->objectName() != QLatin1String(Confirmation::kObjectName)) {
+                continue;
+            }
+            poll->deleteLater();
+            poll->stop();
+            if (question) {
+                *question = box->text();
+            }
+            for (QAbstractButton* button : box->buttons()) {
+                if (button->text().startsWith(answer)) {
+                    button->click();
+                }
+            }
+            return;
+        }
+    });
+    poll->start(20);
 }
 
 } // namespace TestSupport

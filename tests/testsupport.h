@@ -73,6 +73,10 @@ QString librivox(const QString& part);
 // audio extraction's own arguments (an MP3 despite "-format wav").
 bool makeSpeechMp3(const QStringList& wavs, const QString& output);
 
+// Answers the next confirmation with the button whose text starts with
+// answer, once it shows; the question it asked lands in question.
+void answerConfirmation(const QString& answer, QString* question = nullptr);
+
 } // namespace TestSupport
 
 #endif // TESTSUPPORT_H

@@ -157,6 +157,41 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>在“%1”中未找到字幕。</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>字幕只能保存为 .srt 或 .ass 文件，“%1”两者都不是。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>无法写入“%1”：%2</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>保存字幕</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>字幕另存为...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>SubRip 字幕 (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>ASS 字幕 (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>字幕未保存</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -271,6 +306,20 @@
         <source>Select all (%1/%2)</source>
         <translation>全选（%1/%2）</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>清空字幕</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>要删除全部 %Ln 条字幕吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>删除</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -366,6 +415,46 @@
 %1</source>
         <translation>无法检查更新。请检查网络连接后重试。
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>字幕有尚未保存的修改。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln 张截取的画面从未导出，将会丢失。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>关闭 Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>保存字幕</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>仍然关闭</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
     </message>
 </context>
 <context>
@@ -496,6 +585,20 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>用当前字幕样式重新截取所有画面</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>清空画面</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>要删除全部 %Ln 张画面吗？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>删除</translation>
     </message>
 </context>
 <context>
@@ -904,6 +1007,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>撤销：%1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>重做：%1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>加载字幕</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>自动字幕</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>清空画面</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>删除画面</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>重新截取画面</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -989,6 +1131,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>当前时间已有字幕，请移到没有字幕的时间点。</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>修改全部字幕样式</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>编辑字幕</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>新建字幕</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>编辑字幕文字</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>清空字幕</translation>
     </message>
 </context>
 <context>

@@ -157,6 +157,41 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>In „%1“ wurden keine Untertitel gefunden.</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>Untertitel werden als .srt- oder .ass-Datei gespeichert; „%1“ ist keines von beiden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>„%1“ konnte nicht geschrieben werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Untertitel speichern</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Untertitel speichern unter...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>untertitel</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>SubRip-Untertitel (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>ASS-Untertitel (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>Die Untertitel wurden nicht gespeichert</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -271,6 +306,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Alle auswählen (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Untertitel löschen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>%Ln Untertitel entfernen?</numerusform>
+            <numerusform>Alle %Ln Untertitel entfernen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -366,6 +416,47 @@
 %1</source>
         <translation>Es konnte nicht nach Updates gesucht werden. Bitte prüfen Sie Ihre Netzwerkverbindung und versuchen Sie es erneut.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>Die Untertitel haben ungespeicherte Änderungen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln aufgenommenes Bild wurde nie exportiert und geht verloren.</numerusform>
+            <numerusform>%Ln aufgenommene Bilder wurden nie exportiert und gehen verloren.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Glimmer schließen</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Untertitel speichern</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Trotzdem schließen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -499,6 +590,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Alle Bilder mit dem aktuellen Untertitelstil neu erfassen</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Bilder löschen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>%Ln Bild entfernen?</numerusform>
+            <numerusform>Alle %Ln Bilder entfernen?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
@@ -907,6 +1013,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Untertitel laden</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Automatische Untertitel</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Bilder löschen</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Bild löschen</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Bilder neu aufnehmen</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -993,6 +1138,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>An der aktuellen Stelle gibt es bereits einen Untertitel. Gehen Sie zu einer Stelle ohne Untertitel.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Stil aller Untertitel ändern</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Untertitel bearbeiten</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Untertitel erstellen</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Untertiteltext bearbeiten</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Untertitel löschen</translation>
     </message>
 </context>
 <context>

@@ -157,6 +157,41 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>No captions were found in &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>&quot;%1&quot; could not be written: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Save captions</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Save captions as...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>captions</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>SubRip subtitles (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>ASS subtitles (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>The captions were not saved</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -271,6 +306,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Select all (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Clear captions</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>Remove %Ln caption?</numerusform>
+            <numerusform>Remove all %Ln captions?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -366,6 +416,47 @@
 %1</source>
         <translation>Could not check for updates. Please check your network connection and try again.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>The captions have changes that were not saved.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln captured frame was never exported and will be lost.</numerusform>
+            <numerusform>%Ln captured frames were never exported and will be lost.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Close Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Save captions</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Close anyway</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
@@ -499,6 +590,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Capture every frame again with the current caption style</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Clear frames</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>Remove %Ln frame?</numerusform>
+            <numerusform>Remove all %Ln frames?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
     </message>
 </context>
 <context>
@@ -907,6 +1013,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Undo %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Redo %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Load subtitles</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Automatic captions</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Clear frames</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Delete frame</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Re-capture frames</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -993,6 +1138,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>A caption already covers the current time. Move to a moment without a caption.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Edit the style of all captions</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Edit caption</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Create caption</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Edit caption text</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Clear captions</translation>
     </message>
 </context>
 <context>

@@ -157,6 +157,41 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>No se han encontrado subtítulos en «%1».</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>Los subtítulos se guardan como archivos .srt o .ass; «%1» no es ninguno de ellos.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>No se pudo escribir «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Guardar subtítulos</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Guardar subtítulos como...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>subtitulos</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>Subtítulos SubRip (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>Subtítulos ASS (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>Los subtítulos no se guardaron</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -271,6 +306,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Seleccionar todo (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Borrar subtítulos</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>¿Quitar %Ln subtítulo?</numerusform>
+            <numerusform>¿Quitar los %Ln subtítulos?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -366,6 +416,47 @@
 %1</source>
         <translation>No se han podido buscar actualizaciones. Compruebe su conexión de red e inténtelo de nuevo.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>Los subtítulos tienen cambios sin guardar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln fotograma capturado nunca se exportó y se perderá.</numerusform>
+            <numerusform>%Ln fotogramas capturados nunca se exportaron y se perderán.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Cerrar Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Guardar subtítulos</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Cerrar de todos modos</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -499,6 +590,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Volver a capturar todos los fotogramas con el estilo de subtítulo actual</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Borrar fotogramas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>¿Quitar %Ln fotograma?</numerusform>
+            <numerusform>¿Quitar los %Ln fotogramas?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
     </message>
 </context>
 <context>
@@ -907,6 +1013,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Deshacer: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rehacer: %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Cargar subtítulos</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Subtítulos automáticos</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Borrar fotogramas</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Eliminar fotograma</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Recapturar fotogramas</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -993,6 +1138,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>Ya hay un subtítulo en el momento actual. Vaya a un momento sin subtítulo.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Editar el estilo de todos los subtítulos</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Editar subtítulo</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Crear subtítulo</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Editar texto del subtítulo</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Borrar subtítulos</translation>
     </message>
 </context>
 <context>

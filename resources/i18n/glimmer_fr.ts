@@ -157,6 +157,41 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>Aucun sous-titre trouvé dans « %1 ».</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>Les sous-titres s’enregistrent en fichier .srt ou .ass ; « %1 » n’est ni l’un ni l’autre.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>Impossible d’écrire « %1 » : %2</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Enregistrer les sous-titres</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Enregistrer les sous-titres sous...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>sous-titres</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>Sous-titres SubRip (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>Sous-titres ASS (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>Les sous-titres n’ont pas été enregistrés</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -271,6 +306,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Tout sélectionner (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Effacer les sous-titres</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>Supprimer %Ln sous-titre ?</numerusform>
+            <numerusform>Supprimer les %Ln sous-titres ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -366,6 +416,47 @@
 %1</source>
         <translation>Impossible de rechercher les mises à jour. Vérifiez votre connexion réseau et réessayez.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>Les sous-titres ont des modifications non enregistrées.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln image capturée n’a jamais été exportée et sera perdue.</numerusform>
+            <numerusform>%Ln images capturées n’ont jamais été exportées et seront perdues.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Fermer Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Enregistrer les sous-titres</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Fermer quand même</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
@@ -499,6 +590,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Capturer à nouveau toutes les images avec le style de sous-titre actuel</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Effacer les images</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>Supprimer %Ln image ?</numerusform>
+            <numerusform>Supprimer les %Ln images ?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
     </message>
 </context>
 <context>
@@ -907,6 +1013,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Charger les sous-titres</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Sous-titres automatiques</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Effacer les images</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Supprimer l’image</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Recapturer les images</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -993,6 +1138,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>Un sous-titre couvre déjà l’instant actuel. Placez-vous à un moment sans sous-titre.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Modifier le style de tous les sous-titres</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Modifier le sous-titre</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Créer un sous-titre</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Modifier le texte du sous-titre</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Effacer les sous-titres</translation>
     </message>
 </context>
 <context>

@@ -157,6 +157,41 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>Nessun sottotitolo trovato in &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>I sottotitoli si salvano come file .srt o .ass; «%1» non è né l’uno né l’altro.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>Impossibile scrivere «%1»: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Salva sottotitoli</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Salva sottotitoli come...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>sottotitoli</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>Sottotitoli SubRip (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>Sottotitoli ASS (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>I sottotitoli non sono stati salvati</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -271,6 +306,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Seleziona tutto (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Cancella sottotitoli</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>Rimuovere %Ln sottotitolo?</numerusform>
+            <numerusform>Rimuovere tutti i %Ln sottotitoli?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -366,6 +416,47 @@
 %1</source>
         <translation>Impossibile verificare gli aggiornamenti. Controlla la connessione di rete e riprova.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>I sottotitoli hanno modifiche non salvate.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln fotogramma catturato non è mai stato esportato e andrà perso.</numerusform>
+            <numerusform>%Ln fotogrammi catturati non sono mai stati esportati e andranno persi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Chiudi Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Salva sottotitoli</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Scarta</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Chiudi comunque</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
     </message>
 </context>
 <context>
@@ -499,6 +590,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Cattura di nuovo tutti i fotogrammi con lo stile di sottotitolo attuale</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Cancella fotogrammi</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>Rimuovere %Ln fotogramma?</numerusform>
+            <numerusform>Rimuovere tutti i %Ln fotogrammi?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
     </message>
 </context>
 <context>
@@ -907,6 +1013,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annulla: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Ripeti</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Ripeti: %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Carica sottotitoli</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Sottotitoli automatici</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Cancella fotogrammi</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Elimina fotogramma</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Ricattura fotogrammi</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -993,6 +1138,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>Nel punto attuale c’è già un sottotitolo. Spostati in un punto senza sottotitoli.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Modifica lo stile di tutti i sottotitoli</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Modifica sottotitolo</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Crea sottotitolo</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Modifica testo del sottotitolo</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Cancella sottotitoli</translation>
     </message>
 </context>
 <context>

@@ -157,6 +157,41 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>「%1」に字幕が見つかりませんでした。</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>字幕は .srt または .ass ファイルとして保存します。「%1」はどちらでもありません。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>「%1」を書き込めませんでした: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>字幕を保存</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>名前を付けて字幕を保存...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>字幕</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>SubRip 字幕 (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>ASS 字幕 (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>字幕を保存できませんでした</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -271,6 +306,20 @@
         <source>Select all (%1/%2)</source>
         <translation>すべて選択（%1/%2）</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>字幕をすべて削除</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>%Ln 件の字幕をすべて削除しますか？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -366,6 +415,46 @@
 %1</source>
         <translation>アップデートを確認できませんでした。ネットワーク接続を確認して、もう一度お試しください。
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>字幕に保存されていない変更があります。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>キャプチャした %Ln 枚のフレームは一度も書き出されておらず、失われます。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Glimmer を閉じる</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>字幕を保存</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
 </context>
 <context>
@@ -496,6 +585,20 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>現在の字幕スタイルですべてのフレームをキャプチャし直す</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>フレームをすべて削除</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>%Ln 枚のフレームをすべて削除しますか？</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
     </message>
 </context>
 <context>
@@ -904,6 +1007,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>元に戻す: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>やり直す: %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>字幕の読み込み</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>自動字幕</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>フレームをすべて削除</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>フレームの削除</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>フレームの再キャプチャ</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -989,6 +1131,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>現在の位置にはすでに字幕があります。字幕のない位置に移動してください。</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>すべての字幕のスタイル変更</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>字幕の編集</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>字幕の作成</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>字幕テキストの編集</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>字幕をすべて削除</translation>
     </message>
 </context>
 <context>

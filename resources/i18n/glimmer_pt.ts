@@ -157,6 +157,41 @@
         <source>No captions were found in &quot;%1&quot;.</source>
         <translation>Nenhuma legenda foi encontrada em &quot;%1&quot;.</translation>
     </message>
+    <message>
+        <source>Captions are saved as .srt or .ass files; &quot;%1&quot; is neither.</source>
+        <translation>As legendas são guardadas como ficheiros .srt ou .ass; &quot;%1&quot; não é nenhum deles.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; could not be written: %2</source>
+        <translation>Não foi possível escrever &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CaptionSaveFlow</name>
+    <message>
+        <source>Save captions</source>
+        <translation>Guardar legendas</translation>
+    </message>
+    <message>
+        <source>Save captions as...</source>
+        <translation>Guardar legendas como...</translation>
+    </message>
+    <message>
+        <source>captions</source>
+        <translation>legendas</translation>
+    </message>
+    <message>
+        <source>SubRip subtitles (*.srt)</source>
+        <translation>Legendas SubRip (*.srt)</translation>
+    </message>
+    <message>
+        <source>ASS subtitles (*.ass)</source>
+        <translation>Legendas ASS (*.ass)</translation>
+    </message>
+    <message>
+        <source>The captions were not saved</source>
+        <translation>As legendas não foram guardadas</translation>
+    </message>
 </context>
 <context>
     <name>CaptionStyleBar</name>
@@ -271,6 +306,21 @@
         <source>Select all (%1/%2)</source>
         <translation>Selecionar tudo (%1/%2)</translation>
     </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Limpar legendas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln captions?</source>
+        <translation>
+            <numerusform>Remover %Ln legenda?</numerusform>
+            <numerusform>Remover todas as %Ln legendas?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -366,6 +416,47 @@
 %1</source>
         <translation>Não foi possível verificar atualizações. Verifique sua conexão de rede e tente novamente.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>CloseGuard</name>
+    <message>
+        <source>The captions have changes that were not saved.</source>
+        <translation>As legendas têm alterações por guardar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln captured frames were never exported and will be lost.</source>
+        <translation>
+            <numerusform>%Ln fotograma capturado nunca foi exportado e será perdido.</numerusform>
+            <numerusform>%Ln fotogramas capturados nunca foram exportados e serão perdidos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Close Glimmer</source>
+        <translation>Fechar Glimmer</translation>
+    </message>
+    <message>
+        <source>Save captions</source>
+        <translation>Guardar legendas</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message>
+        <source>Close anyway</source>
+        <translation>Fechar mesmo assim</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>Confirmation</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
@@ -499,6 +590,21 @@
     <message>
         <source>Capture every frame again with the current caption style</source>
         <translation>Capturar novamente todos os quadros com o estilo de legenda atual</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Limpar fotogramas</translation>
+    </message>
+    <message numerus="yes">
+        <source>Remove all %Ln frames?</source>
+        <translation>
+            <numerusform>Remover %Ln fotograma?</numerusform>
+            <numerusform>Remover todos os %Ln fotogramas?</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
     </message>
 </context>
 <context>
@@ -907,6 +1013,45 @@
     </message>
 </context>
 <context>
+    <name>UndoHistory</name>
+    <message>
+        <source>Undo</source>
+        <translation>Anular</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Anular: %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Refazer</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Refazer: %1</translation>
+    </message>
+    <message>
+        <source>Load subtitles</source>
+        <translation>Carregar legendas</translation>
+    </message>
+    <message>
+        <source>Automatic captions</source>
+        <translation>Legendas automáticas</translation>
+    </message>
+    <message>
+        <source>Clear frames</source>
+        <translation>Limpar fotogramas</translation>
+    </message>
+    <message>
+        <source>Delete frame</source>
+        <translation>Eliminar fotograma</translation>
+    </message>
+    <message>
+        <source>Re-capture frames</source>
+        <translation>Recapturar fotogramas</translation>
+    </message>
+</context>
+<context>
     <name>VideoPlayWidget</name>
     <message>
         <source>Drop your video here! Or,&lt;br&gt;&lt;a style=&quot;color: #008cf1;&quot; href=&quot;clicked&quot;&gt;Click here to import video.&lt;/a&gt;</source>
@@ -993,6 +1138,26 @@
     <message>
         <source>A caption already covers the current time. Move to a moment without a caption.</source>
         <translation>Já existe uma legenda no momento atual. Vá para um momento sem legenda.</translation>
+    </message>
+    <message>
+        <source>Edit the style of all captions</source>
+        <translation>Editar o estilo de todas as legendas</translation>
+    </message>
+    <message>
+        <source>Edit caption</source>
+        <translation>Editar legenda</translation>
+    </message>
+    <message>
+        <source>Create caption</source>
+        <translation>Criar legenda</translation>
+    </message>
+    <message>
+        <source>Edit caption text</source>
+        <translation>Editar texto da legenda</translation>
+    </message>
+    <message>
+        <source>Clear captions</source>
+        <translation>Limpar legendas</translation>
     </message>
 </context>
 <context>

@@ -42,3 +42,13 @@ int AssTime::parse(const QString& text)
     const qint64 ms = ((parts[0] * 60 + parts[1]) * 60 + parts[2]) * 1000 + parts[3] * 10;
     return ms > std::numeric_limits<int>::max() ? -1 : static_cast<int>(ms);
 }
+
+QString AssTime::formatSrt(int ms)
+{
+    ms = qMax(0, ms);
+    return QStringLiteral("%1:%2:%3,%4")
+        .arg(ms / 3600000, 2, 10, QLatin1Char('0'))
+        .arg(ms / 60000 % 60, 2, 10, QLatin1Char('0'))
+        .arg(ms / 1000 % 60, 2, 10, QLatin1Char('0'))
+        .arg(ms % 1000, 3, 10, QLatin1Char('0'));
+}

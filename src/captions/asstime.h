@@ -13,6 +13,8 @@ public:
     // Text to milliseconds; the digits after the point count hundredths
     // whatever their number, as renderers read them. -1 when unreadable.
     static int parse(const QString& text);
+    // Milliseconds as an SRT time, "HH:MM:SS,mmm"; negative times read as 0.
+    static QString formatSrt(int ms);
 };
 
 #endif // ASSTIME_H

@@ -17,6 +17,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
+#include <QSaveFile>
 #include <QSet>
 #include <QStringView>
 #include <QTextStream>
@@ -154,6 +156,7 @@ void CaptionManager::clearCaptions()
 
 void CaptionManager::replaceCaptions(const QList<CaptionInfo*>& captions)
 {
+    m_allOverride.clear();
     // Everyone holding a pointer lets go of it before the records go.
     emit aboutToReplaceCaptions();
     const QList<CaptionInfo*> old = m_captions;
@@ -456,6 +459,15 @@ void CaptionManager::changeCaptionNew(CaptionInfo* info, bool isAll)
     }
     QTextStream out(&file);
     out.setCodec("UTF-8");
+    m_allOverride = isAll ? block : QString();
+    writeRegenerated(out, m_allOverride);
+    out.flush();
+    file.close();
+    GlobalManager::instance()->emitEvent(AppConfig::UPDATE_CAPTION, file.fileName());
+}
+
+void CaptionManager::writeRegenerated(QTextStream& out, const QString& allBlock, bool withHidden) const
+{
     AssWriter::writeHeader(out);
 
     QSet<QString> written;
@@ -481,19 +493,95 @@ void CaptionManager::changeCaptionNew(CaptionInfo* info, bool isAll)
 
     AssWriter::writeEventsHeader(out);
     for (const CaptionInfo* caption : qAsConst(m_captions)) {
-        QString override;
-        if (isAll) {
-            override = block;
-        } else if (!caption->editMarks.isEmpty()) {
+        QString override = allBlock;
+        if (allBlock.isEmpty() && !caption->editMarks.isEmpty()) {
             override = caption->editMarks.constFirst().first;
             qDebug().noquote() << "subtitle->" << override << caption->text;
         }
-        const QString text = caption->isShow ? AssWriter::eventText(caption->text) : QString();
+        const QString text = caption->isShow || withHidden ? AssWriter::eventText(caption->text) : QString();
         out << AssWriter::editedEventLine(*caption, text, override) << '\n';
     }
-    out.flush();
+}
+
+void CaptionManager::restoreState(const QList<CaptionInfo*>& captions, const QList<CaptionStyle*>& styles,
+                                  const QStringList& fileLines, const QString& assFilePath,
+                                  const QByteArray& shownText, const QString& allOverride)
+{
+    replaceCaptions(captions);
+    m_allOverride = allOverride;
+    qDeleteAll(m_styles);
+    m_styles = styles;
+    m_fileLines = fileLines;
+    m_assFilePath = assFilePath;
+
+    QFile file;
+    if (!openWorkingFile(file, "Failed to open the file for writing")) {
+        return;
+    }
+    if (shownText.isEmpty()) {
+        QTextStream out(&file);
+        out.setCodec("UTF-8");
+        writeRegenerated(out, QString());
+        out.flush();
+    } else {
+        file.write(shownText);
+    }
     file.close();
     GlobalManager::instance()->emitEvent(AppConfig::UPDATE_CAPTION, file.fileName());
+}
+
+// ---------------------------------------------------------------- saving
+
+QString CaptionManager::captionFileText(const QString& format) const
+{
+    QString text;
+    QTextStream out(&text);
+    if (format == QLatin1String("ass")) {
+        writeRegenerated(out, m_allOverride, true);
+        out.flush();
+        return text;
+    }
+    static const QRegularExpression overrides(QStringLiteral("\\{[^}]*\\}"));
+    int number = 0;
+    for (const CaptionInfo* caption : qAsConst(m_captions)) {
+        if (caption->startMs() < 0 || caption->endMs() < 0) {
+            continue;
+        }
+        QString body = caption->text;
+        body.remove(overrides);
+        body.replace(QLatin1String("\\N"), QLatin1String("\n"));
+        body.replace(QLatin1String("\\n"), QLatin1String("\n"));
+        body.replace(QLatin1String("\\h"), QLatin1String(" "));
+        out << ++number << '\n'
+            << AssTime::formatSrt(caption->startMs()) << " --> " << AssTime::formatSrt(caption->endMs()) << '\n'
+            << body << "\n\n";
+    }
+    out.flush();
+    return text;
+}
+
+bool CaptionManager::saveCaptionFile(const QString& path)
+{
+    m_lastError.clear();
+    m_errorPath.clear();
+    const QFileInfo info(path);
+    const QString format = info.suffix().toLower();
+    if (format != QLatin1String("srt") && format != QLatin1String("ass")) {
+        m_lastError = tr("Captions are saved as .srt or .ass files; \"%1\" is neither.").arg(info.fileName());
+        return false;
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        m_lastError = tr("\"%1\" could not be written: %2").arg(info.fileName(), file.errorString());
+        return false;
+    }
+    file.write(captionFileText(format).toUtf8());
+    if (!file.commit()) {
+        m_lastError = tr("\"%1\" could not be written: %2").arg(info.fileName(), file.errorString());
+        return false;
+    }
+    qDebug().noquote() << "captions saved:" << path << m_captions.size();
+    return true;
 }
 
 CaptionInfo* CaptionManager::insertCaptionInfo(double time, double duration)

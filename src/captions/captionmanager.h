@@ -12,6 +12,7 @@
 #include <QStringList>
 
 class QFile;
+class QTextStream;
 
 // The caption list of the open video, its styles, the recognition language and
 // the working files (extracted audio, raw service reply, working ASS file).
@@ -76,8 +77,15 @@ public:
     QString pathToLoad(const QString& path) const;
     int finishLoad(const QString& path, CaptionFileContent content);
 
-    // Why the latest subtitle load or SRT conversion gave the user nothing new
-    // (unreadable file, no captions, ffmpeg missing or failing); empty when it
+    // Saving: the format follows the suffix (.srt or .ass). False, with
+    // lastError() naming the reason, when nothing was written.
+    bool saveCaptionFile(const QString& path);
+    // The captions as a subtitle file of that format ("srt" or "ass"): ASS
+    // keeps the styles and each caption's override block, SRT plain lines.
+    QString captionFileText(const QString& format) const;
+
+    // Why the latest subtitle load, SRT conversion or save gave the user nothing
+    // new (unreadable file, no captions, ffmpeg missing or failing); empty when it
     // went well. loadCaptionFile(path) starts afresh unless path is the file the
     // conversion reported on; loadCaptionFile("") keeps the conversion's message.
     QString lastError() const { return m_lastError; }
@@ -87,6 +95,15 @@ public:
     void changeCaption(CaptionInfo* info);
     void changeCaptionNew(CaptionInfo* info, bool isAll);
     CaptionInfo* insertCaptionInfo(double time, double duration);
+    // Takes over these records and styles (an undo step), writes shownText, or
+    // the records when it is empty, to the working file and announces it with
+    // "update_caption".
+    void restoreState(const QList<CaptionInfo*>& captions, const QList<CaptionStyle*>& styles,
+                      const QStringList& fileLines, const QString& assFilePath, const QByteArray& shownText,
+                      const QString& allOverride);
+    // The override block of the latest edit applied to all captions, while
+    // every event still carries it; empty otherwise.
+    QString allOverride() const { return m_allOverride; }
 
 signals:
     // The caption records are about to be freed or handed over: drop every
@@ -100,6 +117,9 @@ private:
     QString workingFilePath(const QString& suffix) const;
     bool openWorkingFile(QFile& file, const char* failureLog) const;
     void reportLoadError(const QString& text);
+    // Header, styles and events of the list; allBlock, when set, overrides every event.
+    // withHidden: texts the user hid are written too (a saved file keeps them).
+    void writeRegenerated(QTextStream& out, const QString& allBlock, bool withHidden = false) const;
 
     QList<CaptionInfo*> m_captions;
     QList<CaptionStyle*> m_styles;
@@ -113,6 +133,7 @@ private:
     QList<Language::LanguageItem*> m_langItems;
     QString m_lastError;
     QString m_errorPath;
+    QString m_allOverride;
 };
 
 // A change of a caption's tick or show state takes effect at the next regeneration.

@@ -1,5 +1,6 @@
 #include "imageswidget.h"
 
+#include "confirmation.h"
 #include "globalmanager.h"
 #include "imageexporter.h"
 #include "imageitem.h"
@@ -68,7 +69,7 @@ ImagesWidget::ImagesWidget(QWidget* parent)
 
     connect(m_selectAllBox, &QCheckBox::clicked, this, &ImagesWidget::selectAll);
     connect(m_showButton, &QPushButton::clicked, this, &ImagesWidget::showButtonClickedHandle);
-    connect(m_clearButton, &QPushButton::clicked, this, &ImagesWidget::clearButtonClickedHandle);
+    connect(m_clearButton, &QPushButton::clicked, this, &ImagesWidget::askAndClear);
     connect(m_applyStyleButton, &QPushButton::clicked, this, &ImagesWidget::applyStyleSignal);
     connect(m_exporter, &ImageExporter::showRegisterGuide, this, &ImagesWidget::showRegisterGuide);
     connect(m_exporter, &ImageExporter::exportFinished, this, &ImagesWidget::exportFinishedSignal);
@@ -117,11 +118,25 @@ void ImagesWidget::addImage(const QVariant& value)
 void ImagesWidget::addImage(const AppConfig::CaptureData& data)
 {
     qDebug() << "addImage:" << data.time << data.frame;
+    ImageItem* item = createItem(data, true);
+    // Before the trailing stretch, so the strip stays packed to the left.
+    m_stripLayout->insertWidget(m_stripLayout->count() - 1, item);
+    m_items.append(item);
+
+    QTimer::singleShot(100, this, [this]() {
+        m_scrollArea->horizontalScrollBar()->setValue(m_scrollArea->horizontalScrollBar()->maximum());
+    });
+    checkSelectImages();
+    refreshListView();
+}
+
+ImageItem* ImagesWidget::createItem(const AppConfig::CaptureData& data, bool selected)
+{
     auto* item = new ImageItem(m_stripWidget);
     item->changeImageByPixmap(data.pixmap);
     item->setCaptureTime(data.time);
     item->setFrame(data.frame);
-    item->setSelect(true);
+    item->setSelect(selected);
 
     const int width = AppConfig::rate(150);
     const int pixmapWidth = data.pixmap.width();
@@ -133,25 +148,69 @@ void ImagesWidget::addImage(const AppConfig::CaptureData& data)
                            : 0;
     item->setFixedSize(width, height);
 
-    // Before the trailing stretch, so the strip stays packed to the left.
-    m_stripLayout->insertWidget(m_stripLayout->count() - 1, item);
-    m_items.append(item);
-
-    QTimer::singleShot(100, this, [this]() {
-        m_scrollArea->horizontalScrollBar()->setValue(m_scrollArea->horizontalScrollBar()->maximum());
-    });
-
     connect(item, &ImageItem::selectedSignal, this, [this]() {
         checkSelectImages();
         refreshListView();
     });
     connect(item, &ImageItem::deleteSignal, this, [this, item]() {
+        const int position = m_items.indexOf(item);
+        if (position >= 0) {
+            emit framesRemoved({frameAt(position)});
+        }
         removeItem(item);
         checkSelectImages();
         refreshListView();
     });
+    return item;
+}
+
+ImagesWidget::Frame ImagesWidget::frameAt(int position) const
+{
+    const ImageItem* item = m_items.at(position);
+    Frame frame;
+    frame.position = position;
+    frame.data.pixmap = item->getPixmap();
+    frame.data.time = item->getCpatureTime();
+    frame.data.frame = item->getFrame();
+    frame.selected = item->isSelect();
+    return frame;
+}
+
+void ImagesWidget::restoreFrames(const QList<Frame>& frames)
+{
+    for (const Frame& frame : frames) {
+        const int position = qBound(0, frame.position, m_items.size());
+        ImageItem* item = createItem(frame.data, frame.selected);
+        m_stripLayout->insertWidget(position, item);
+        m_items.insert(position, item);
+    }
     checkSelectImages();
     refreshListView();
+}
+
+void ImagesWidget::removeFrames(const QList<int>& positions)
+{
+    QList<ImageItem*> doomed;
+    for (int position : positions) {
+        if (position >= 0 && position < m_items.size()) {
+            doomed.append(m_items.at(position));
+        }
+    }
+    for (ImageItem* item : qAsConst(doomed)) {
+        removeItem(item);
+    }
+    checkSelectImages();
+    refreshListView();
+}
+
+void ImagesWidget::setFramePixmaps(const QList<int>& positions, const QList<QPixmap>& pixmaps)
+{
+    for (int i = 0; i < positions.size() && i < pixmaps.size(); ++i) {
+        if (positions.at(i) >= 0 && positions.at(i) < m_items.size()) {
+            m_items.at(positions.at(i))->changeImageByPixmap(pixmaps.at(i));
+        }
+    }
+    updateImageShow();
 }
 
 void ImagesWidget::checkSelectImages()
@@ -201,8 +260,25 @@ void ImagesWidget::removeItem(ImageItem* item)
     item->deleteLater();
 }
 
+void ImagesWidget::askAndClear()
+{
+    if (!m_items.isEmpty()
+        && !Confirmation::ask(window(), tr("Clear frames"),
+                              tr("Remove all %Ln frames?", nullptr, m_items.size()), tr("Remove"))) {
+        return;
+    }
+    clearButtonClickedHandle();
+}
+
 void ImagesWidget::clearButtonClickedHandle()
 {
+    if (!m_items.isEmpty()) {
+        QList<Frame> frames;
+        for (int i = 0; i < m_items.size(); ++i) {
+            frames.append(frameAt(i));
+        }
+        emit framesRemoved(frames);
+    }
     m_listViewDialog->clearImageList();
     const QList<ImageItem*> items = m_items;
     for (ImageItem* item : items) {
@@ -251,6 +327,10 @@ void ImagesWidget::initListViewDialog()
 {
     m_listViewDialog = new ImageListViewDialog(this);
     connect(m_listViewDialog, &ImageListViewDialog::deleteImage, this, [this](ImageItem* item) {
+        const int position = m_items.indexOf(item);
+        if (position >= 0) {
+            emit framesRemoved({frameAt(position)});
+        }
         removeItem(item);
         checkSelectImages();
     });
@@ -263,7 +343,7 @@ void ImagesWidget::initListViewDialog()
         checkSelectImages();
     });
     connect(m_listViewDialog, &ImageListViewDialog::selectAllSignal, this, &ImagesWidget::selectAll);
-    connect(m_listViewDialog, &ImageListViewDialog::deleteAllSignal, this, &ImagesWidget::clearButtonClickedHandle);
+    connect(m_listViewDialog, &ImageListViewDialog::deleteAllSignal, this, &ImagesWidget::askAndClear);
     connect(m_listViewDialog, &ImageListViewDialog::exportButtonTap, this, &ImagesWidget::exportSelectedHandle);
 
     connect(m_exporter, &ImageExporter::exportStarted, m_listViewDialog, [this]() {

@@ -26,6 +26,13 @@ class ImagesWidget : public BaseWidget
 {
     Q_OBJECT
 public:
+    // A frame as it stood in the strip, to put it back where it was.
+    struct Frame {
+        int position = 0;
+        AppConfig::CaptureData data;
+        bool selected = true;
+    };
+
     explicit ImagesWidget(QWidget* parent = nullptr);
     ~ImagesWidget() override;
 
@@ -44,12 +51,23 @@ signals:
     void showRegisterGuide();
     // files: pictures now in the output folder; errors: one text per failure.
     void exportFinishedSignal(QStringList files, QStringList errors);
+    // The user removed frames (deleted one, cleared the strip); emitted before
+    // they go, in strip order.
+    void framesRemoved(const QList<ImagesWidget::Frame>& frames);
 
 public slots:
     void checkSelectImages();
     void selectAll(bool selected);
     void updateByPixmapList(const QList<QPixmap>& pixmaps);
     void clearButtonClickedHandle();
+    // The clear button: asks first when there is anything to lose.
+    void askAndClear();
+    // Puts frames back at their positions (ascending), selected as they were.
+    void restoreFrames(const QList<ImagesWidget::Frame>& frames);
+    // Removes the frames at these positions without announcing framesRemoved.
+    void removeFrames(const QList<int>& positions);
+    // Gives the frames at these positions these pictures.
+    void setFramePixmaps(const QList<int>& positions, const QList<QPixmap>& pixmaps);
     void showButtonClickedHandle();
     void updateImageShow();
     void clickImageHandle(const QPixmap& pixmap);
@@ -61,6 +79,8 @@ public slots:
 
 private:
     void removeItem(ImageItem* item);
+    ImageItem* createItem(const AppConfig::CaptureData& data, bool selected);
+    Frame frameAt(int position) const;
     void retranslate();
     void refreshListView();
 

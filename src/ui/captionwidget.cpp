@@ -4,6 +4,7 @@
 #include "captioninfo.h"
 #include "captionitem.h"
 #include "captionmanager.h"
+#include "confirmation.h"
 #include "globalmanager.h"
 #include "settings.h"
 
@@ -15,6 +16,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QStyle>
+#include <QToolButton>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
@@ -138,6 +142,7 @@ void CaptionWidget::buildUi()
     bottom->setContentsMargins(0, 0, 0, 0);
     bottom->setSpacing(AppConfig::rate(6));
     auto* selectRow = new QHBoxLayout();
+    m_selectRow = selectRow;
     selectRow->setSpacing(AppConfig::rate(4));
     selectRow->addWidget(m_selectAll, 1);
     selectRow->addWidget(m_showTextButton);
@@ -178,7 +183,16 @@ void CaptionWidget::buildUi()
     });
     connect(m_createButton, &QPushButton::clicked, this, &CaptionWidget::createCaptionSignal);
     connect(m_localButton, &QPushButton::clicked, this, &CaptionWidget::loadLocalSubtitleSignal);
-    connect(m_clearButton, &QPushButton::clicked, this, &CaptionWidget::clearCaptionSignal);
+    connect(m_clearButton, &QPushButton::clicked, this, [this]() {
+        // Every caption goes, ticked or not: say how many before they do.
+        const int count = CaptionManager::instance()->getCaptions().size();
+        if (count > 0
+            && !Confirmation::ask(window(), tr("Clear captions"), tr("Remove all %Ln captions?", nullptr, count),
+                                  tr("Remove"))) {
+            return;
+        }
+        emit clearCaptionSignal();
+    });
     connect(m_captureButton, &QPushButton::clicked, this, [this]() { emit captureSelectSignal(0); });
     connect(m_selectAll, &QCheckBox::clicked, this, [this](bool checked) {
         for (CaptionInfo* info : CaptionManager::instance()->getCaptions()) {
@@ -201,6 +215,21 @@ void CaptionWidget::buildUi()
         retranslate();
         emit captionTextChangedSignal(nullptr);
     });
+}
+
+void CaptionWidget::addSaveActions(QAction* save, QAction* saveAs)
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(QStringLiteral("save_captions"));
+    save->setIcon(style()->standardIcon(QStyle::SP_DialogSaveButton));
+    button->setDefaultAction(save);
+    button->setIconSize(AppConfig::rate(QSize(16, 16)));
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    auto* menu = new QMenu(button);
+    menu->addActions({save, saveAs});
+    button->setMenu(menu);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+    m_selectRow->insertWidget(m_selectRow->indexOf(m_clearButton), button);
 }
 
 void CaptionWidget::fillLanguageBox()

@@ -7,6 +7,8 @@
 #include <QList>
 
 class CaptionInfo;
+class QAction;
+class QHBoxLayout;
 class CaptionItem;
 class QCheckBox;
 class QComboBox;
@@ -39,6 +41,8 @@ public:
     void updateCaptionItem(CaptionInfo* info);
     // Makes sure the caption's row exists and is in view.
     void scrollToCaption(CaptionInfo* info);
+    // The save actions of the window, as a button by the clear button.
+    void addSaveActions(QAction* save, QAction* saveAs);
     // Key of the language chosen for automatic captions.
     int currentLanguageKey() const;
 
@@ -95,6 +99,7 @@ private:
     QPushButton* m_clearButton = nullptr;
     QPushButton* m_captureButton = nullptr;
     QWidget* m_bottomBar = nullptr;
+    QHBoxLayout* m_selectRow = nullptr;
 
     QList<CaptionItem*> m_items;
     int m_page = 0;

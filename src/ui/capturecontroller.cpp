@@ -208,6 +208,7 @@ void CaptureController::subtitlesLoaded()
     }
     qDebug() << "capture time compare:" << m_currentItem->getCpatureTime() << now << m_source->currentFrame();
     m_pass = Pass::RecaptureSingle;
+    showBusy(tr("Applying current style"));
     if (m_currentItem->getCpatureTime() != now) {
         seekTo(m_currentItem->getCpatureTime());
         return;
@@ -229,7 +230,7 @@ void CaptureController::recaptureSingleStep()
     setState(State::Captured);
     ImageItem* item = m_currentItem;
     m_currentItem = nullptr;
-    item->changeImageByPixmap(pixmap);
+    replaceFrame(item, pixmap);
     if (m_strip) {
         m_strip->updateImageShow();
     }
@@ -254,7 +255,7 @@ void CaptureController::recaptureAllStep()
     setState(State::Captured);
     m_recapturedPixmaps.append(pixmap);
     if (ImageItem* item = m_currentItem) {
-        item->changeImageByPixmap(pixmap);
+        replaceFrame(item, pixmap);
         if (m_strip) {
             m_strip->updateImageShow();
         }
@@ -343,6 +344,19 @@ void CaptureController::cancel()
     }
 }
 
+void CaptureController::forgetEdit()
+{
+    m_editedCaption = nullptr;
+    m_recaptureAllPending = false;
+}
+
+void CaptureController::replaceFrame(ImageItem* item, const QPixmap& pixmap)
+{
+    m_replacedItems.append(item);
+    m_replacedBefore.append(item->getPixmap());
+    item->changeImageByPixmap(pixmap);
+}
+
 void CaptureController::showBusy(const QString& text)
 {
     m_busyShown = true;
@@ -359,5 +373,18 @@ void CaptureController::finishPass()
     if (m_busyShown) {
         m_busyShown = false;
         emit idle();
+    }
+    if (!m_replacedItems.isEmpty()) {
+        QList<ImageItem*> items;
+        QList<QPixmap> before;
+        for (int i = 0; i < m_replacedItems.size(); ++i) {
+            if (m_replacedItems.at(i)) {
+                items.append(m_replacedItems.at(i));
+                before.append(m_replacedBefore.at(i));
+            }
+        }
+        m_replacedItems.clear();
+        m_replacedBefore.clear();
+        emit framesRecaptured(items, before);
     }
 }

@@ -59,6 +59,9 @@ public slots:
     void setEditedCaption(CaptionInfo* caption);
     // The user cancelled: no new seek starts; the frame in hand is kept.
     void cancel();
+    // The captions were put back as they were (undo): the next subtitle
+    // reload is not an edit and re-captures nothing.
+    void forgetEdit();
 
 signals:
     // Show a busy dialog with this text / hide it.
@@ -72,6 +75,9 @@ signals:
     void recaptureFinished();
     // A strip frame got its new picture.
     void frameReplaced(ImageItem* item);
+    // A re-capture pass ended (finished or not) having replaced the pictures
+    // of these frames; before: their pictures until then.
+    void framesRecaptured(const QList<ImageItem*>& items, const QList<QPixmap>& before);
 
 private:
     void subtitlesLoaded();
@@ -86,6 +92,7 @@ private:
     void recaptureAllStep();
     bool seekNextQueued();
     void finishPass();
+    void replaceFrame(ImageItem* item, const QPixmap& pixmap);
 
     CaptureSource* m_source;
     QPointer<ImagesWidget> m_strip;
@@ -102,6 +109,9 @@ private:
     QList<QPixmap> m_recapturedPixmaps;
     QList<ImageItem*> m_recaptureItems;
     QPointer<ImageItem> m_currentItem;
+    // Frames replaced in this pass and their pictures before it.
+    QList<QPointer<ImageItem>> m_replacedItems;
+    QList<QPixmap> m_replacedBefore;
     CaptionInfo* m_editedCaption = nullptr;
     bool m_recaptureAllPending = false;
 };

@@ -92,6 +92,13 @@ void MainMenu::retranslate()
     m_languageMenu->setTitle(tr("Language"));
 }
 
+void MainMenu::addEditActions(const QList<QAction*>& actions)
+{
+    QAction* before = action(MenuOutputFolder);
+    insertActions(before, actions);
+    insertSeparator(before);
+}
+
 void MainMenu::refreshChecks()
 {
     const QString format = Settings::instance()->value(AppConfig::FILE_EXTENSION).toString();

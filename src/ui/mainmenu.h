@@ -36,6 +36,9 @@ public:
     // The actions that only open a dialog or a folder: output folder, check
     // for updates, registration, About, log folder.
     void openDialog(int type);
+    // Actions of the window's flows (undo, redo, saving captions), shown
+    // after the file actions.
+    void addEditActions(const QList<QAction*>& actions);
 
 signals:
     void menuTapped(int type);

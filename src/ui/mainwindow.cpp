@@ -8,6 +8,7 @@
 #include "captionwidget.h"
 #include "capturecontroller.h"
 #include "checkupdatedialog.h"
+#include "closeguard.h"
 #include "globalmanager.h"
 #include "httpmanager.h"
 #include "imageswidget.h"
@@ -32,6 +33,8 @@
 #include <QTranslator>
 #include <QUrl>
 #include <QVBoxLayout>
+
+#include <utility>
 
 MainWindow::MainWindow(QWidget* parent)
     : CFramelessWindow(parent)
@@ -74,6 +77,7 @@ void MainWindow::initialize()
     });
     m_flows = new WindowFlows({this, m_videoPlayWidget, m_imagesWidget, m_previewWidget, m_captionWidget,
                                m_loadingDialog, m_messageDialog});
+    m_flows->addActions(m_menu);
     connect(m_flows, &WindowFlows::captureCheckedFinished, this, &MainWindow::captureSelectFinished);
     connect(m_flows, &WindowFlows::recaptureFinished, this, &MainWindow::recaptureFinished);
 
@@ -174,9 +178,6 @@ void MainWindow::initCaptionWidget()
 {
     m_captionWidget = new CaptionWidget(this);
     connect(m_captionWidget, &CaptionWidget::loadLocalSubtitleSignal, this, &MainWindow::addLocalSubtitle);
-    connect(m_captionWidget, &CaptionWidget::clearCaptionSignal, this, [this]() {
-        GlobalManager::instance()->emitEvent(AppConfig::REMOVE_CAPTION, QString());
-    });
 }
 
 void MainWindow::initMenu()
@@ -270,6 +271,7 @@ void MainWindow::menuTapByType(int type)
         showCaptionWidget(!m_captionWidget->isVisible());
         break;
     case MainMenu::MenuQuit:
+        m_userClose = true;
         close();
         break;
     default:
@@ -298,7 +300,7 @@ void MainWindow::titleBarButtonClickedHandle(int type)
         toggleMaximized();
         break;
     case TitleBar::Close:
-        close();
+        menuTapByType(MainMenu::MenuQuit);
         break;
     default:
         break;
@@ -350,6 +352,11 @@ void MainWindow::keyPressEvent(QKeyEvent* event)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    const bool asked = std::exchange(m_userClose, false) || event->spontaneous();
+    if (asked && !m_flows->closeGuard()->confirmClose()) {
+        event->ignore();
+        return;
+    }
     quitAppFinishEvent();
     CFramelessWindow::closeEvent(event);
 }

@@ -113,6 +113,8 @@ private:
 
     MainMenu* m_menu = nullptr;
     WindowFlows* m_flows = nullptr;
+    // Ctrl+Q or the title bar's close: the user's own close, which may ask.
+    bool m_userClose = false;
 
 
 };

@@ -1,9 +1,12 @@
 #include "windowflows.h"
 
+#include "appconfig.h"
 #include "autocaptionflow.h"
 #include "captioninfo.h"
 #include "captioneditor.h"
 #include "captionfileflow.h"
+#include "captionsaveflow.h"
+#include "closeguard.h"
 #include "captionwidget.h"
 #include "appconfig.h"
 #include "exportnotice.h"
@@ -14,13 +17,16 @@
 #include "imageitem.h"
 #include "imageswidget.h"
 #include "loadingdialog.h"
+#include "mainmenu.h"
 #include "messagedialog.h"
 #include "playercapturesource.h"
 #include "previewwidget.h"
 #include "registerguidedialog.h"
+#include "undohistory.h"
 #include "videoplaywidget.h"
 
 #include <QDebug>
+#include <QAction>
 #include <QDir>
 #include <QFileInfo>
 #include <QPushButton>
@@ -29,10 +35,15 @@ WindowFlows::WindowFlows(const Parts& parts)
     : QObject(parts.window)
     , m_parts(parts)
 {
+    m_history = new UndoHistory(parts.strip, this);
+    m_saver = new CaptionSaveFlow(parts.window);
+    connect(m_saver, &CaptionSaveFlow::failed, this, &WindowFlows::showMessage);
+    m_closeGuard = new CloseGuard(parts.window, parts.strip, m_saver);
     initCapture();
     initAutoCaptions();
     initCaptionFiles();
     initExports();
+    initHistory();
 }
 
 void WindowFlows::showMessage(const QString& title, const QString& message)
@@ -47,8 +58,26 @@ void WindowFlows::initCapture()
     auto* source = new PlayerCaptureSource(player);
     m_capture = new CaptureController(source, m_parts.strip, this);
     m_editor = new CaptionEditor(source, m_capture, this);
-    connect(player, &VideoPlayWidget::captionEditSignal, m_editor, &CaptionEditor::styleEdited);
-    connect(m_parts.captions, &CaptionWidget::captionTextChangedSignal, m_editor, &CaptionEditor::textEdited);
+    connect(player, &VideoPlayWidget::captionEditSignal, this, [this](CaptionInfo* caption, bool isAll) {
+        QString text = isAll ? tr("Edit the style of all captions") : tr("Edit caption");
+        if (caption && caption->isInsert && caption->editMarks.isEmpty()) {
+            text = tr("Create caption");
+        }
+        m_history->recordCaptions(text, [this, caption, isAll]() { m_editor->styleEdited(caption, isAll); });
+    });
+    connect(m_parts.captions, &CaptionWidget::captionTextChangedSignal, this, [this](CaptionInfo* caption) {
+        if (!caption) {
+            // Ticks and shown texts are no step of their own.
+            m_editor->textEdited(nullptr);
+            return;
+        }
+        m_history->recordCaptions(tr("Edit caption text"), [this, caption]() { m_editor->textEdited(caption); });
+    });
+    connect(m_parts.captions, &CaptionWidget::clearCaptionSignal, this, [this]() {
+        m_history->recordCaptions(tr("Clear captions"), []() {
+            GlobalManager::instance()->emitEvent(AppConfig::REMOVE_CAPTION, QString());
+        });
+    });
     connect(m_editor, &CaptionEditor::captionChanged, m_parts.captions, &CaptionWidget::updateCaptionItem);
 
     connect(m_parts.captions, &CaptionWidget::createCaptionSignal, this, [this]() {
@@ -121,7 +150,28 @@ void WindowFlows::initCaptionFiles()
                     showMessage(title, problem);
                 }
                 m_parts.player->loadSubTitleFile(assPath);
+                m_history->captionsLoaded(assPath);
+                m_closeGuard->markCaptionsSaved();
             });
+}
+
+void WindowFlows::addActions(MainMenu* menu)
+{
+    const QList<QAction*> actions{m_saver->saveAction(), m_saver->saveAsAction(), m_history->undoAction(),
+                                  m_history->redoAction()};
+    menu->addEditActions(actions);
+    m_parts.captions->addSaveActions(m_saver->saveAction(), m_saver->saveAsAction());
+    m_parts.window->addActions(actions);
+}
+
+void WindowFlows::initHistory()
+{
+    connect(m_capture, &CaptureController::framesRecaptured, m_history, &UndoHistory::framesRecaptured);
+    connect(m_history, &UndoHistory::captionsRestored, this, [this]() {
+        m_capture->forgetEdit();
+        m_parts.captions->createCaption(QByteArray());
+        m_parts.captions->updateSelectAllText();
+    });
 }
 
 void WindowFlows::initExports()
@@ -129,6 +179,9 @@ void WindowFlows::initExports()
     // One message for every failure of an export, from either panel.
     m_notice = new ExportNotice(m_parts.window);
     auto finished = [this](const QStringList& files, const QStringList& errors) {
+        if (!files.isEmpty()) {
+            m_closeGuard->markSelectionExported();
+        }
         if (!errors.isEmpty()) {
             showMessage(ImageExporter::summary(files, errors), errors.join(QLatin1Char('\n')));
         }

@@ -7,13 +7,17 @@
 class AutoCaptionFlow;
 class CaptionEditor;
 class CaptionFileFlow;
+class CaptionSaveFlow;
+class CloseGuard;
 class CaptionWidget;
 class CaptureController;
 class ExportNotice;
 class ImagesWidget;
 class LoadingDialog;
+class MainMenu;
 class MessageDialog;
 class PreviewWidget;
+class UndoHistory;
 class VideoPlayWidget;
 class QWidget;
 
@@ -42,8 +46,14 @@ public:
     CaptionFileFlow* captionFiles() const { return m_captionFiles; }
     CaptionEditor* editor() const { return m_editor; }
     ExportNotice* exportNotice() const { return m_notice; }
+    UndoHistory* history() const { return m_history; }
+    CaptionSaveFlow* captionSaver() const { return m_saver; }
+    CloseGuard* closeGuard() const { return m_closeGuard; }
 
     void showMessage(const QString& title, const QString& message);
+    // Puts the flows' own actions into the menu and makes their shortcuts
+    // work anywhere in the window.
+    void addActions(MainMenu* menu);
 
 signals:
     // Every ticked caption was captured.
@@ -56,6 +66,7 @@ private:
     void initAutoCaptions();
     void initCaptionFiles();
     void initExports();
+    void initHistory();
 
     Parts m_parts;
     CaptureController* m_capture = nullptr;
@@ -63,6 +74,9 @@ private:
     AutoCaptionFlow* m_autoCaptions = nullptr;
     CaptionFileFlow* m_captionFiles = nullptr;
     ExportNotice* m_notice = nullptr;
+    UndoHistory* m_history = nullptr;
+    CaptionSaveFlow* m_saver = nullptr;
+    CloseGuard* m_closeGuard = nullptr;
 };
 
 #endif // WINDOWFLOWS_H
