@@ -751,12 +751,6 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>无法将图片写入 %1：%2</translation>
-        <source>Cannot create the file: %1</source>
-        <translation>无法创建文件：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>写入图片失败：%1</translation>
     </message>
 </context>
 <context>

@@ -757,12 +757,6 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>Das Bild konnte nicht in %1 geschrieben werden: %2</translation>
-        <source>Cannot create the file: %1</source>
-        <translation>Die Datei kann nicht angelegt werden: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Das Bild konnte nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>

@@ -757,12 +757,6 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>Writing the picture to %1 failed: %2</translation>
-        <source>Cannot create the file: %1</source>
-        <translation>Cannot create the file: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Writing the picture failed: %1</translation>
     </message>
 </context>
 <context>

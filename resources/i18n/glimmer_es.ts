@@ -757,12 +757,6 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>No se pudo escribir la imagen en %1: %2</translation>
-        <source>Cannot create the file: %1</source>
-        <translation>No se puede crear el archivo: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>No se ha podido guardar la imagen: %1</translation>
     </message>
 </context>
 <context>

@@ -757,12 +757,6 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>L&apos;écriture de l&apos;image dans %1 a échoué : %2</translation>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossible de créer le fichier : %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>L’écriture de l’image a échoué : %1</translation>
     </message>
 </context>
 <context>

@@ -751,12 +751,6 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>無法將圖片寫入 %1：%2</translation>
-        <source>Cannot create the file: %1</source>
-        <translation>無法建立檔案：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>寫入圖片失敗：%1</translation>
     </message>
 </context>
 <context>

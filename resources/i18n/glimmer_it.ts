@@ -757,12 +757,6 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>Scrittura dell&apos;immagine in %1 non riuscita: %2</translation>
-        <source>Cannot create the file: %1</source>
-        <translation>Impossibile creare il file: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Scrittura dell’immagine non riuscita: %1</translation>
     </message>
 </context>
 <context>

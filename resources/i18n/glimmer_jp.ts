@@ -751,12 +751,6 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>%1 への画像の書き込みに失敗しました: %2</translation>
-        <source>Cannot create the file: %1</source>
-        <translation>ファイルを作成できません：%1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>画像の書き込みに失敗しました：%1</translation>
     </message>
 </context>
 <context>

@@ -757,12 +757,6 @@
     <message>
         <source>Writing the picture to %1 failed: %2</source>
         <translation>Falha ao gravar a imagem em %1: %2</translation>
-        <source>Cannot create the file: %1</source>
-        <translation>Não é possível criar o arquivo: %1</translation>
-    </message>
-    <message>
-        <source>Writing the picture failed: %1</source>
-        <translation>Falha ao gravar a imagem: %1</translation>
     </message>
 </context>
 <context>
