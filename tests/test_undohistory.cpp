@@ -95,7 +95,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(GlobalManager::instance()->getCurrentFile().fileName() == "walk.mp4", 20000);
         QSignalSpy replies(m_window->videoPlayWidget(), &VideoPlayWidget::captureEventSignal);
         m_window->loadCaption(srt);
-        QCOMPARE(captionTexts(), m_texts);
+        QTRY_COMPARE_WITH_TIMEOUT(captionTexts(), m_texts, 20000);
         QTRY_VERIFY_WITH_TIMEOUT(!replies.isEmpty() && replies.last().at(0).toInt() == 14, 10000);
         // The new video's history starts with nothing but the load.
         QTRY_COMPARE(m_history->stack()->count(), 1);

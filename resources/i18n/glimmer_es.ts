@@ -304,7 +304,7 @@
     </message>
     <message>
         <source>Select all (%1/%2)</source>
-        <translation>Seleccionar todo (%1/%2)</translation>
+        <translation>Marcar todo (%1/%2)</translation>
     </message>
     <message>
         <source>Clear captions</source>

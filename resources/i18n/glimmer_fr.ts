@@ -304,7 +304,7 @@
     </message>
     <message>
         <source>Select all (%1/%2)</source>
-        <translation>Tout sélectionner (%1/%2)</translation>
+        <translation>Tout cocher (%1/%2)</translation>
     </message>
     <message>
         <source>Clear captions</source>

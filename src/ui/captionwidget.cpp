@@ -228,7 +228,8 @@ void CaptionWidget::addSaveActions(QAction* save, QAction* saveAs)
     auto* menu = new QMenu(button);
     menu->addActions({save, saveAs});
     button->setMenu(menu);
-    button->setPopupMode(QToolButton::MenuButtonPopup);
+    // A split button would take the width the tick box needs in longer languages.
+    button->setPopupMode(QToolButton::InstantPopup);
     m_selectRow->insertWidget(m_selectRow->indexOf(m_clearButton), button);
 }
 
