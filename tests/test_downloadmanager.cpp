@@ -102,13 +102,8 @@ void TestDownloadManager::outputHandling()
                                              "[#75964e 52MiB/200MiB(26%) CN:1 DL:16MiB ETA:8s]\n"));
     QCOMPARE(progress.count(), 1);
     const auto p = progress.at(0).at(0).value<DownloadManager::DownloadProgress>();
-    QCOMPARE(p.hash, QStringLiteral("#75964e"));
-    QCOMPARE(p.completed, QStringLiteral("52MiB"));
-    QCOMPARE(p.total, QStringLiteral("200MiB"));
-    QCOMPARE(p.percent, QStringLiteral("26%"));
-    QCOMPARE(p.connections, QStringLiteral("1"));
-    QCOMPARE(p.speed, QStringLiteral("16MiB"));
-    QCOMPARE(p.eta, QStringLiteral("8s"));
+    QCOMPARE((QStringList{p.hash, p.completed, p.total, p.percent, p.connections, p.speed, p.eta}),
+             (QStringList{"#75964e", "52MiB", "200MiB", "26%", "1", "16MiB", "8s"}));
 
     // Two progress lines in one chunk, the second without an ETA.
     manager->toolOutputHandle(QStringLiteral("[#75964e 60MiB/200MiB(30%) CN:1 DL:16MiB ETA:8s]\n"
