@@ -33,6 +33,12 @@ public:
     };
     using Handler = std::function<Response(const Request&)>;
 
+    // A server that gives every request the same answer.
+    explicit LocalHttpServer(const Response& answer)
+        : LocalHttpServer([answer](const Request&) { return answer; })
+    {
+    }
+
     explicit LocalHttpServer(Handler handler)
         : m_handler(std::move(handler))
     {

@@ -58,6 +58,16 @@ public:
     bool loaded = true;
 };
 
+// Captions "a", "b", ... of half a second, one a second from 1 s on.
+void makeCaptions(int count)
+{
+    QList<std::tuple<int, int, QString>> items;
+    for (int i = 1; i <= count; ++i) {
+        items.append({i * 1000, i * 1000 + 500, QString(QChar('a' + i - 1))});
+    }
+    CaptionManager::instance()->createCaptions(TestSupport::utterances(items), false);
+}
+
 } // namespace
 
 class TestCaptureController : public QObject
@@ -95,11 +105,9 @@ private slots:
     void checkedPassTakesTickedCaptionsInOrderAndSkipsTheUnreachable()
     {
         CaptionManager* captions = CaptionManager::instance();
-        captions->createCaptions(TestSupport::utterances({{1000, 1500, QStringLiteral("one")},
-                                                          {2000, 2500, QStringLiteral("unticked")},
-                                                          {3000, 3500, QStringLiteral("two")},
-                                                          {61000, 62000, QStringLiteral("past the end")},
-                                                          {60000, 60500, QStringLiteral("at the end")}}),
+        captions->createCaptions(TestSupport::utterances({{1000, 1500, "one"}, {2000, 2500, "unticked"},
+                                                          {3000, 3500, "two"}, {61000, 62000, "past the end"},
+                                                          {60000, 60500, "at the end"}}),
                                  false);
         captions->getCaptions().at(1)->isCheck = false;
         m_player->length = 60.0;
@@ -156,8 +164,7 @@ private slots:
         QFETCH(bool, loaded);
         QFETCH(bool, checked);
         QFETCH(QString, title);
-        CaptionManager::instance()->createCaptions(TestSupport::utterances({{1000, 1500, QStringLiteral("one")}}),
-                                                   false);
+        makeCaptions(1);
         CaptionManager::instance()->getCaptions().first()->isCheck = false;
         m_player->loaded = loaded;
         QSignalSpy failed(m_controller, &CaptureController::failed);
@@ -172,8 +179,7 @@ private slots:
 
     void frameThatNeverShowsAndSeekNeverAnswered()
     {
-        CaptionManager::instance()->createCaptions(
-            TestSupport::utterances({{1000, 1500, QStringLiteral("a")}, {2000, 2500, QStringLiteral("b")}}), false);
+        makeCaptions(2);
         QSignalSpy failed(m_controller, &CaptureController::failed);
         QSignalSpy idle(m_controller, &CaptureController::idle);
         m_controller->startCaptureChecked();
@@ -188,8 +194,7 @@ private slots:
 
     void failedSnapshotEndsThePassAndKeepsTheRest()
     {
-        CaptionManager::instance()->createCaptions(
-            TestSupport::utterances({{1000, 1500, QStringLiteral("a")}, {2000, 2500, QStringLiteral("b")}}), false);
+        makeCaptions(2);
         m_player->failSnapshots = true;
         QSignalSpy failed(m_controller, &CaptureController::failed);
         m_controller->startCaptureChecked();
@@ -201,10 +206,7 @@ private slots:
 
     void cancelStopsBeforeTheNextSeek()
     {
-        CaptionManager::instance()->createCaptions(TestSupport::utterances({{1000, 1500, QStringLiteral("a")},
-                                                                            {2000, 2500, QStringLiteral("b")},
-                                                                            {3000, 3500, QStringLiteral("c")}}),
-                                                   false);
+        makeCaptions(3);
         QSignalSpy finished(m_controller, &CaptureController::checkedPassFinished);
         m_controller->startCaptureChecked();
         m_controller->cancel();
@@ -252,8 +254,7 @@ private slots:
         QFETCH(double, position);
         QFETCH(int, seeks);
         QFETCH(int, snapshots);
-        CaptionManager::instance()->createCaptions(TestSupport::utterances({{2000, 3000, QStringLiteral("a")}}),
-                                                   false);
+        CaptionManager::instance()->createCaptions(TestSupport::utterances({{2000, 3000, "a"}}), false);
         m_strip->addImage(TestSupport::capture(TestSupport::solidFrame(Qt::gray, 64, 36), 2.0, 50));
         m_player->position = position;
         QSignalSpy done(m_controller, &CaptureController::recaptureFinished);
@@ -274,9 +275,7 @@ private slots:
     void recordsGoneBeforeTheyAreFreed()
     {
         CaptionManager* captions = CaptionManager::instance();
-        captions->createCaptions(TestSupport::utterances({{1000, 1500, QStringLiteral("a")},
-                                                          {2000, 2500, QStringLiteral("b")}}),
-                                 false);
+        makeCaptions(2);
         m_controller->startCaptureChecked();
         m_controller->setEditedCaption(captions->getCaptions().first());
         QCOMPARE(m_controller->queue().size(), 1);

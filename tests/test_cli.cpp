@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QSettings>
+#include <QTime>
 #include <QtTest>
 
 namespace {
@@ -22,11 +23,7 @@ struct CliRun {
 
 QString srtTime(int ms)
 {
-    return QStringLiteral("%1:%2:%3,%4")
-        .arg(ms / 3600000, 2, 10, QLatin1Char('0'))
-        .arg(ms / 60000 % 60, 2, 10, QLatin1Char('0'))
-        .arg(ms / 1000 % 60, 2, 10, QLatin1Char('0'))
-        .arg(ms % 1000, 3, 10, QLatin1Char('0'));
+    return QTime::fromMSecsSinceStartOfDay(ms).toString(QStringLiteral("hh:mm:ss,zzz"));
 }
 
 QByteArray srt(const QList<QPair<int, QString>>& captions)
@@ -83,12 +80,11 @@ void TestCli::initTestCase()
     QVERIFY(TestSupport::writeFile(m_srt, srt(kCaptions)));
     setRegistered(true);
     m_frames = m_dir + QStringLiteral("/frames");
-    const CliRun run = cli({m_video, QStringLiteral("--subtitles"), m_srt, QStringLiteral("--frames-dir"), m_frames});
+    const CliRun run = cli({m_video, "--subtitles", m_srt, "--frames-dir", m_frames});
     QVERIFY2(run.exitCode == 0, qPrintable(run.err));
     // The caption after the end is reported and skipped; the others are written in order.
     QVERIFY2(run.err.contains(QStringLiteral("caption 4 starts at 0:00:12.00")), qPrintable(run.err));
-    QCOMPARE(QDir(m_frames).entryList(QDir::Files),
-             (QStringList{QStringLiteral("film_1.png"), QStringLiteral("film_2.png"), QStringLiteral("film_3.png")}));
+    QCOMPARE(QDir(m_frames).entryList(QDir::Files), (QStringList{"film_1.png", "film_2.png", "film_3.png"}));
 
     // The window's path on the same captions: the SRT converted and added to
     // the player, an exact seek to each start, a snapshot at its restart; and
@@ -181,9 +177,8 @@ void TestCli::framesEqualTheWindowsCapture()
 void TestCli::bandsAutoCropsToTheCaptionRows()
 {
     const QString out = m_dir + QStringLiteral("/bands.png");
-    const CliRun run = cli({m_video, QStringLiteral("--subtitles"), m_srt, QStringLiteral("--captions"),
-                            QStringLiteral("1-3"), QStringLiteral("--bands"), QStringLiteral("auto"),
-                            QStringLiteral("-o"), out, QStringLiteral("--quiet")});
+    const CliRun run
+        = cli({m_video, "--subtitles", m_srt, "--captions", "1-3", "--bands", "auto", "-o", out, "--quiet"});
     QVERIFY2(run.exitCode == 0, qPrintable(run.err));
     QVERIFY(run.err.isEmpty());
     // Rows compared by their hashes: a band is a verbatim run of its frame's rows.
@@ -233,8 +228,7 @@ void TestCli::watermarkFollowsRegistration()
     // unregistered copy stamps the middle of the frame and nothing else.
     const QString dir = m_dir + QStringLiteral("/unregistered");
     setRegistered(false);
-    const CliRun run = cli({m_video, QStringLiteral("--subtitles"), m_srt, QStringLiteral("--captions"),
-                            QStringLiteral("1"), QStringLiteral("--frames-dir"), dir});
+    const CliRun run = cli({m_video, "--subtitles", m_srt, "--captions", "1", "--frames-dir", dir});
     setRegistered(true);
     QVERIFY2(run.exitCode == 0, qPrintable(run.err));
     const QImage marked(dir + QStringLiteral("/film_1.png"));
@@ -249,16 +243,13 @@ void TestCli::subtitleTrackOfTheVideo()
     // Without --subtitles the video's own text track goes the way of an SRT:
     // the very same frames.
     const QString muxed = m_dir + QStringLiteral("/film.mkv");
-    QCOMPARE(TestSupport::ffmpeg({QStringLiteral("-i"), m_video, QStringLiteral("-i"), m_srt, QStringLiteral("-map"),
-                                  QStringLiteral("0"), QStringLiteral("-map"), QStringLiteral("1"),
-                                  QStringLiteral("-c"), QStringLiteral("copy"), QStringLiteral("-c:s"),
-                                  QStringLiteral("srt"), muxed}),
+    QCOMPARE(TestSupport::ffmpeg({"-i", m_video, "-i", m_srt, "-map", "0", "-map", "1", "-c", "copy", "-c:s", "srt",
+                                  muxed}),
              0);
     const QString dir = m_dir + QStringLiteral("/track");
-    const CliRun run = cli({muxed, QStringLiteral("--search"), QStringLiteral("ECHO"), QStringLiteral("--frames-dir"),
-                            dir, QStringLiteral("--quiet")});
+    const CliRun run = cli({muxed, "--search", "ECHO", "--frames-dir", dir, "--quiet"});
     QVERIFY2(run.exitCode == 0, qPrintable(run.err));
-    QCOMPARE(QDir(dir).entryList(QDir::Files), QStringList{QStringLiteral("film_1.png")});
+    QCOMPARE(QDir(dir).entryList(QDir::Files), QStringList{"film_1.png"});
     QCOMPARE(QImage(dir + QStringLiteral("/film_1.png")), QImage(m_frames + QStringLiteral("/film_2.png")));
 }
 
@@ -275,57 +266,40 @@ void TestCli::badInput_data()
     const QString garbage = dir + QStringLiteral("/garbage.srt");
     TestSupport::writeFile(garbage, "no times here\njust words\n");
     const QString sound = dir + QStringLiteral("/sound.m4a");
-    TestSupport::ffmpeg({QStringLiteral("-f"), QStringLiteral("lavfi"), QStringLiteral("-i"),
-                         QStringLiteral("sine=duration=2"), sound});
-    const QStringList subs{QStringLiteral("--subtitles"), m_srt};
+    TestSupport::ffmpeg({"-f", "lavfi", "-i", "sine=duration=2", sound});
 
-    QTest::newRow("no video") << QStringList{QStringLiteral("-o"), out} << 2 << "no video given";
-    QTest::newRow("unknown option") << QStringList{m_video, QStringLiteral("--colour"), QStringLiteral("red")} << 2
-                                    << "Unknown option 'colour'";
-    QTest::newRow("two outputs") << QStringList{m_video, QStringLiteral("-o"), out, QStringLiteral("--frames-dir"), dir}
-                                 << 2 << "cannot be combined";
-    QTest::newRow("bad layout") << QStringList{m_video, QStringLiteral("--layout"), QStringLiteral("diagonal"),
-                                               QStringLiteral("-o"), out}
-                                << 2 << "--layout must be vertical, horizontal or grid";
-    QTest::newRow("bands in a grid") << QStringList{m_video, QStringLiteral("--layout"), QStringLiteral("grid"),
-                                                    QStringLiteral("--bands"), QStringLiteral("auto"),
-                                                    QStringLiteral("-o"), out}
-                                     << 2 << "--bands auto needs --layout vertical or horizontal";
-    QTest::newRow("backward range") << QStringList{m_video, QStringLiteral("--captions"), QStringLiteral("5-3"),
-                                                   QStringLiteral("-o"), out}
-                                    << 2 << "\"5-3\" is not a range";
-    QTest::newRow("unknown suffix") << QStringList{m_video, QStringLiteral("-o"), dir + QStringLiteral("/out.gif")}
-                                    << 2 << "add --format";
-    QTest::newRow("space eats the frames") << QStringList{m_video, subs.at(0), subs.at(1), QStringLiteral("--space"),
-                                                          QStringLiteral("-360"), QStringLiteral("-o"), out}
+    QTest::newRow("no video") << QStringList{"-o", out} << 2 << "no video given";
+    QTest::newRow("unknown option") << QStringList{m_video, "--colour", "red"} << 2 << "Unknown option 'colour'";
+    QTest::newRow("two outputs") << QStringList{m_video, "-o", out, "--frames-dir", dir} << 2 << "cannot be combined";
+    QTest::newRow("bad layout") << QStringList{m_video, "--layout", "diagonal", "-o", out} << 2
+                                << "--layout must be vertical, horizontal or grid";
+    QTest::newRow("bands in a grid") << QStringList{m_video, "--layout", "grid", "--bands", "auto", "-o", out} << 2
+                                     << "--bands auto needs --layout vertical or horizontal";
+    QTest::newRow("backward range") << QStringList{m_video, "--captions", "5-3", "-o", out} << 2
+                                    << "\"5-3\" is not a range";
+    QTest::newRow("unknown suffix") << QStringList{m_video, "-o", dir + "/out.gif"} << 2 << "add --format";
+    QTest::newRow("space eats the frames") << QStringList{m_video, "--subtitles", m_srt, "--space", "-360", "-o", out}
                                            << 2 << "--space -360 leaves nothing";
-    QTest::newRow("missing video") << QStringList{dir + QStringLiteral("/none.mp4"), QStringLiteral("-o"), out} << 1
-                                   << "cannot read video";
-    QTest::newRow("unreadable video") << QStringList{text, subs.at(0), subs.at(1), QStringLiteral("-o"), out} << 1
+    QTest::newRow("missing video") << QStringList{dir + "/none.mp4", "-o", out} << 1 << "cannot read video";
+    QTest::newRow("unreadable video") << QStringList{text, "--subtitles", m_srt, "-o", out} << 1
                                       << "cannot read video notes.mp4";
-    QTest::newRow("no video stream") << QStringList{sound, subs.at(0), subs.at(1), QStringLiteral("-o"), out} << 1
+    QTest::newRow("no video stream") << QStringList{sound, "--subtitles", m_srt, "-o", out} << 1
                                      << "sound.m4a has no video stream";
-    QTest::newRow("unparsable subtitles") << QStringList{m_video, subs.at(0), garbage, QStringLiteral("-o"), out} << 1
+    QTest::newRow("unparsable subtitles") << QStringList{m_video, "--subtitles", garbage, "-o", out} << 1
                                           << "cannot read subtitles";
-    QTest::newRow("no subtitle track") << QStringList{m_video, QStringLiteral("-o"), out} << 1
-                                       << "film.mp4 has no subtitle track";
-    QTest::newRow("search finds nothing") << QStringList{m_video, subs.at(0), subs.at(1), QStringLiteral("--search"),
-                                                         QStringLiteral("zulu"), QStringLiteral("-o"), out}
+    QTest::newRow("no subtitle track") << QStringList{m_video, "-o", out} << 1 << "film.mp4 has no subtitle track";
+    QTest::newRow("search finds nothing") << QStringList{m_video, "--subtitles", m_srt, "--search", "zulu", "-o", out}
                                           << 1 << "no caption contains \"zulu\"";
-    QTest::newRow("no such caption") << QStringList{m_video, subs.at(0), subs.at(1), QStringLiteral("--captions"),
-                                                    QStringLiteral("2,9"), QStringLiteral("-o"), out}
-                                     << 1 << "there is no caption 9";
-    QTest::newRow("only after the end") << QStringList{m_video, subs.at(0), subs.at(1), QStringLiteral("--captions"),
-                                                       QStringLiteral("4"), QStringLiteral("-o"), out}
-                                        << 1 << "no chosen caption starts before the end";
-    QTest::newRow("folder missing") << QStringList{m_video, subs.at(0), subs.at(1), QStringLiteral("-o"),
-                                                   dir + QStringLiteral("/none/out.png")}
-                                    << 1 << "does not exist";
-    QTest::newRow("too wide for webp") << QStringList{m_video, subs.at(0), subs.at(1), QStringLiteral("--layout"),
-                                                      QStringLiteral("horizontal"), QStringLiteral("--scale"),
-                                                      QStringLiteral("900"), QStringLiteral("-o"),
-                                                      dir + QStringLiteral("/out.webp")}
-                                       << 1 << "WEBP holds at most 16383 pixels on a side. Choose PNG";
+    QTest::newRow("no such caption") << QStringList{m_video, "--subtitles", m_srt, "--captions", "2,9", "-o", out} << 1
+                                     << "there is no caption 9";
+    QTest::newRow("only after the end") << QStringList{m_video, "--subtitles", m_srt, "--captions", "4", "-o", out} << 1
+                                        << "no chosen caption starts before the end";
+    QTest::newRow("folder missing") << QStringList{m_video, "--subtitles", m_srt, "-o", dir + "/none/out.png"} << 1
+                                    << "does not exist";
+    QTest::newRow("too wide for webp")
+        << QStringList{m_video, "--subtitles", m_srt, "--layout", "horizontal", "--scale", "900", "-o",
+                       dir + "/out.webp"}
+        << 1 << "WEBP holds at most 16383 pixels on a side. Choose PNG";
 }
 
 void TestCli::badInput()
@@ -333,7 +307,7 @@ void TestCli::badInput()
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
     QFETCH(QString, message);
-    const CliRun run = cli(arguments + QStringList{QStringLiteral("--quiet")});
+    const CliRun run = cli(arguments << "--quiet");
     QVERIFY2(run.err.contains(message), qPrintable(run.err));
     QCOMPARE(run.exitCode, exitCode);
     // One clear line (and for a mistyped command the pointer to --help), nothing written.
@@ -349,25 +323,24 @@ void TestCli::neverOverwritesWithoutForce()
     const QString dir = TestSupport::makeWorkDir(QStringLiteral("cli-force"));
     const QString out = dir + QStringLiteral("/quotes.png");
     QVERIFY(TestSupport::writeFile(out, "precious"));
-    const QStringList stitch{m_video, QStringLiteral("--subtitles"), m_srt, QStringLiteral("--captions"),
-                             QStringLiteral("1-2"), QStringLiteral("-o"), out};
+    const QStringList stitch{m_video, "--subtitles", m_srt, "--captions", "1-2", "-o", out};
     CliRun run = cli(stitch);
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.err.contains(QStringLiteral("add --force")), qPrintable(run.err));
     QCOMPARE(TestSupport::readFile(out), QByteArray("precious"));
-    run = cli(stitch + QStringList{QStringLiteral("--force"), QStringLiteral("--space"), QStringLiteral("10")});
+    run = cli(stitch + QStringList{"--force", "--space", "10"});
     QVERIFY2(run.exitCode == 0, qPrintable(run.err));
     QCOMPARE(QImage(out).size(), QSize(640, 730));
 
     // A frame already in the folder stops the run before any frame is written.
     const QString frames = dir + QStringLiteral("/frames");
     QVERIFY(TestSupport::writeFile(frames + QStringLiteral("/film_2.png"), "precious"));
-    const QStringList single{m_video, QStringLiteral("--subtitles"), m_srt, QStringLiteral("--frames-dir"), frames};
+    const QStringList single{m_video, "--subtitles", m_srt, "--frames-dir", frames};
     run = cli(single);
     QCOMPARE(run.exitCode, 1);
     QVERIFY2(run.err.contains(QStringLiteral("film_2.png already exists")), qPrintable(run.err));
-    QCOMPARE(QDir(frames).entryList(QDir::Files), QStringList{QStringLiteral("film_2.png")});
-    run = cli(single + QStringList{QStringLiteral("--force")});
+    QCOMPARE(QDir(frames).entryList(QDir::Files), QStringList{"film_2.png"});
+    run = cli(single + QStringList{"--force"});
     QVERIFY2(run.exitCode == 0, qPrintable(run.err));
     QCOMPARE(QImage(frames + QStringLiteral("/film_2.png")), QImage(m_frames + QStringLiteral("/film_2.png")));
 }

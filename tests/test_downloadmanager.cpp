@@ -38,11 +38,7 @@ void TestDownloadManager::versionFileFetched()
 {
     const QByteArray body = R"({"win":{"version":"1.2.0","size":"51MB","date":"2024.01.02",)"
                             R"("change":["a"],"url":"https://example.invalid/setup"}})";
-    LocalHttpServer server([&](const LocalHttpServer::Request&) {
-        LocalHttpServer::Response response;
-        response.body = body;
-        return response;
-    });
+    LocalHttpServer server(LocalHttpServer::Response{200, body});
     QVERIFY(server.listen());
     const QString url = server.url(QStringLiteral("/glimmer/upgrade.json"));
     GlobalManager::instance()->saveSettings(AppConfig::VERSION_FILE_URL, url);
@@ -106,13 +102,8 @@ void TestDownloadManager::outputHandling()
                                              "[#75964e 52MiB/200MiB(26%) CN:1 DL:16MiB ETA:8s]\n"));
     QCOMPARE(progress.count(), 1);
     const auto p = progress.at(0).at(0).value<DownloadManager::DownloadProgress>();
-    QCOMPARE(p.hash, QStringLiteral("#75964e"));
-    QCOMPARE(p.completed, QStringLiteral("52MiB"));
-    QCOMPARE(p.total, QStringLiteral("200MiB"));
-    QCOMPARE(p.percent, QStringLiteral("26%"));
-    QCOMPARE(p.connections, QStringLiteral("1"));
-    QCOMPARE(p.speed, QStringLiteral("16MiB"));
-    QCOMPARE(p.eta, QStringLiteral("8s"));
+    QCOMPARE((QStringList{p.hash, p.completed, p.total, p.percent, p.connections, p.speed, p.eta}),
+             (QStringList{"#75964e", "52MiB", "200MiB", "26%", "1", "16MiB", "8s"}));
 
     // Two progress lines in one chunk, the second without an ETA.
     manager->toolOutputHandle(QStringLiteral("[#75964e 60MiB/200MiB(30%) CN:1 DL:16MiB ETA:8s]\n"
@@ -139,14 +130,7 @@ void TestDownloadManager::realDownloadWithProgressAndMd5()
     QByteArray payload(3 * 1000 * 1000, Qt::Uninitialized);
     QRandomGenerator generator(42);
     generator.fillRange(reinterpret_cast<quint32*>(payload.data()), payload.size() / 4);
-    LocalHttpServer server([&](const LocalHttpServer::Request&) {
-        LocalHttpServer::Response response;
-        response.body = payload;
-        response.contentType = "application/octet-stream";
-        response.chunkSize = 100 * 1000;
-        response.chunkDelayMs = 100;
-        return response;
-    });
+    LocalHttpServer server(LocalHttpServer::Response{200, payload, "application/octet-stream", 100 * 1000, 100});
     QVERIFY(server.listen());
 
     const QString dir = TestSupport::makeWorkDir(QStringLiteral("download"));
@@ -187,12 +171,7 @@ void TestDownloadManager::realDownloadWithProgressAndMd5()
 
 void TestDownloadManager::failedDownloadReportsError()
 {
-    LocalHttpServer server([](const LocalHttpServer::Request&) {
-        LocalHttpServer::Response response;
-        response.status = 404;
-        response.body = "missing";
-        return response;
-    });
+    LocalHttpServer server(LocalHttpServer::Response{404, "missing"});
     QVERIFY(server.listen());
     const QString dir = TestSupport::makeWorkDir(QStringLiteral("download-404"));
     DownloadManager* manager = DownloadManager::instance();

@@ -25,8 +25,7 @@ class TestPreviewWidget : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
-    void propertiesLiveInAppSettings();
-    void layoutChoiceIsStored();
+    void propertiesAndLayoutAreStored();
     void sizeLabelZoomAndScaleFields();
     void outputBarFollowsSettings();
 };
@@ -36,7 +35,7 @@ void TestPreviewWidget::initTestCase()
     TestSupport::isolate();
 }
 
-void TestPreviewWidget::propertiesLiveInAppSettings()
+void TestPreviewWidget::propertiesAndLayoutAreStored()
 {
     GlobalManager* manager = GlobalManager::instance();
     manager->saveInAppSettings(AppConfig::PROPERTY_Y_SPACE, QStringLiteral("-40"));
@@ -56,22 +55,16 @@ void TestPreviewWidget::propertiesLiveInAppSettings()
     QCOMPARE(manager->readInAppSettings(AppConfig::PROPERTY_SCALE).toString(), QStringLiteral("50"));
     manager->saveInAppSettings(AppConfig::PROPERTY_SCALE, QStringLiteral("100"));
     manager->saveInAppSettings(AppConfig::PROPERTY_Y_SPACE, QStringLiteral("0"));
-}
 
-void TestPreviewWidget::layoutChoiceIsStored()
-{
-    GlobalManager* manager = GlobalManager::instance();
-    {
-        PreviewWidget preview;
-        QCOMPARE(preview.getRadioType(), int(PreviewWidget::Vertical));
-        preview.show();
-        const auto radios = preview.findChildren<QRadioButton*>();
-        QCOMPARE(radios.size(), 3);
-        QTest::mouseClick(radios.at(0), Qt::LeftButton);
-        QCOMPARE(preview.getRadioType(), int(PreviewWidget::Grid));
-        QCOMPARE(manager->readSettings(AppConfig::RADIO_TYPE, 1).toInt(), 0);
-        QVERIFY(preview.propertyItem(PropertyItem::Column)->isEnabled());
-    }
+    // The layout choice is kept for the next panel.
+    QCOMPARE(preview.getRadioType(), int(PreviewWidget::Vertical));
+    preview.show();
+    const auto radios = preview.findChildren<QRadioButton*>();
+    QCOMPARE(radios.size(), 3);
+    QTest::mouseClick(radios.at(0), Qt::LeftButton);
+    QCOMPARE(preview.getRadioType(), int(PreviewWidget::Grid));
+    QCOMPARE(manager->readSettings(AppConfig::RADIO_TYPE, 1).toInt(), 0);
+    QVERIFY(preview.propertyItem(PropertyItem::Column)->isEnabled());
     PreviewWidget again;
     QCOMPARE(again.getRadioType(), int(PreviewWidget::Grid));
     again.setRadioType(PreviewWidget::Vertical);

@@ -18,18 +18,14 @@ private slots:
         ProcessThread runner;
         QStringList order;
         connect(&runner, &ProcessThread::processStart, this, [&] { order << QStringLiteral("start"); });
-        connect(&runner, &ProcessThread::processOutput, this, [&](const QString& text) {
-            order << QStringLiteral("out:") + text.trimmed();
-        });
-        connect(&runner, &ProcessThread::processError, this, [&](const QString& text) {
-            order << QStringLiteral("err:") + text.trimmed();
-        });
+        connect(&runner, &ProcessThread::processOutput, this,
+                [&](const QString& text) { order << "out:" + text.trimmed(); });
+        connect(&runner, &ProcessThread::processError, this,
+                [&](const QString& text) { order << "err:" + text.trimmed(); });
         connect(&runner, &ProcessThread::processStop, this, [&] { order << QStringLiteral("stop"); });
         connect(&runner, &ProcessThread::processFailed, this, [&] { order << QStringLiteral("failed"); });
 
-        runner.setCommand(QStringLiteral("/bin/sh"),
-                          {QStringLiteral("-c"), QStringLiteral("echo hello; echo oops 1>&2")},
-                          QIODevice::ReadWrite);
+        runner.setCommand(QStringLiteral("/bin/sh"), {"-c", "echo hello; echo oops 1>&2"}, QIODevice::ReadWrite);
         QElapsedTimer timer;
         timer.start();
         runner.start();
@@ -49,7 +45,7 @@ private slots:
         runner.setCommand(QStringLiteral("/bin/true"), {}, QIODevice::ReadWrite);
         runner.start();
         QTRY_VERIFY_WITH_TIMEOUT(order.contains(QStringLiteral("stop")), 10000);
-        QCOMPARE(order, (QStringList{QStringLiteral("start"), QStringLiteral("stop")}));
+        QCOMPARE(order, (QStringList{"start", "stop"}));
         runner.wait(5000);
     }
 

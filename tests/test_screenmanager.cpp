@@ -17,26 +17,17 @@ private slots:
         QTest::addColumn<QString>("input");
         QTest::addColumn<QString>("expected");
 
-        const QString sheet = QStringLiteral("QWidget{border: 1px solid; width: 15px; margin: -4px;}");
+        const char* sheet = "QWidget{border: 1px solid; width: 15px; margin: -4px;}";
         QTest::newRow("1.0 unchanged") << 1.0 << sheet << sheet;
-        QTest::newRow("1.5 truncates")
-            << 1.5 << sheet << QStringLiteral("QWidget{border: 1px solid; width: 22px; margin: -6px;}");
-        QTest::newRow("2.0 doubles")
-            << 2.0 << sheet << QStringLiteral("QWidget{border: 2px solid; width: 30px; margin: -8px;}");
-        QTest::newRow("bare px gets a zero") << 2.0 << QStringLiteral("a{top: px;}")
-                                             << QStringLiteral("a{top: 0px;}");
-        QTest::newRow("bare px at 1.0") << 1.0 << QStringLiteral("a{top: px; left: 3px}")
-                                        << QStringLiteral("a{top: 0px; left: 3px}");
-        QTest::newRow("only fraction digits scale")
-            << 2.0 << QStringLiteral("a{w: 1.5px}") << QStringLiteral("a{w: 1.10px}");
-        QTest::newRow("digits at the very start stay") << 2.0 << QStringLiteral("12px; b: 3px")
-                                                       << QStringLiteral("12px; b: 6px");
-        QTest::newRow("several in a row") << 1.5 << QStringLiteral("p{padding: 2px 4px 10px 0px}")
-                                          << QStringLiteral("p{padding: 3px 6px 15px 0px}");
-        QTest::newRow("case-sensitive PX") << 2.0 << QStringLiteral("a{w: 5PX; h: 5px}")
-                                           << QStringLiteral("a{w: 5PX; h: 10px}");
-        QTest::newRow("no px") << 2.0 << QStringLiteral("font-size: 11pt;")
-                               << QStringLiteral("font-size: 11pt;");
+        QTest::newRow("1.5 truncates") << 1.5 << sheet << "QWidget{border: 1px solid; width: 22px; margin: -6px;}";
+        QTest::newRow("2.0 doubles") << 2.0 << sheet << "QWidget{border: 2px solid; width: 30px; margin: -8px;}";
+        QTest::newRow("bare px gets a zero") << 2.0 << "a{top: px;}" << "a{top: 0px;}";
+        QTest::newRow("bare px at 1.0") << 1.0 << "a{top: px; left: 3px}" << "a{top: 0px; left: 3px}";
+        QTest::newRow("only fraction digits scale") << 2.0 << "a{w: 1.5px}" << "a{w: 1.10px}";
+        QTest::newRow("digits at the very start stay") << 2.0 << "12px; b: 3px" << "12px; b: 6px";
+        QTest::newRow("several in a row") << 1.5 << "p{padding: 2px 4px 10px 0px}" << "p{padding: 3px 6px 15px 0px}";
+        QTest::newRow("case-sensitive PX") << 2.0 << "a{w: 5PX; h: 5px}" << "a{w: 5PX; h: 10px}";
+        QTest::newRow("no px") << 2.0 << "font-size: 11pt;" << "font-size: 11pt;";
     }
 
     void styleSheetScaling()
@@ -76,10 +67,10 @@ private slots:
 
     void versionComparedAsText()
     {
-        QVERIFY(ScreenManager::versionAtLeast11(QStringLiteral("11.0")));
-        QVERIFY(ScreenManager::versionAtLeast11(QStringLiteral("12.6")));
-        QVERIFY(ScreenManager::versionAtLeast11(QStringLiteral("9.6")));
-        QVERIFY(!ScreenManager::versionAtLeast11(QStringLiteral("10.15")));
+        for (const char* version : {"11.0", "12.6", "9.6"}) {
+            QVERIFY2(ScreenManager::versionAtLeast11(version), version);
+        }
+        QVERIFY(!ScreenManager::versionAtLeast11("10.15"));
     }
 
     void widgetsFollowANewScreen()

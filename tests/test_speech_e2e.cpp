@@ -1,6 +1,6 @@
 // Automatic captions end to end: a video with read speech, the app's audio
-// extraction, the bundled glimmer-speechd started on demand, the result query
-// and the caption writer. pocketsphinx_continuous on the same audio is the oracle.
+// extraction, the bundled glimmer-speechd started on demand and the result
+// query. pocketsphinx_continuous on the same audio is the oracle.
 #include "appconfig.h"
 #include "captionmanager.h"
 #include "globalmanager.h"
@@ -9,8 +9,6 @@
 #include "speechdprocess.h"
 #include "speechservice.h"
 #include "testsupport.h"
-
-#include <ass/ass.h>
 
 #include <QFile>
 #include <QJsonArray>
@@ -43,13 +41,10 @@ private:
     // Words with times from pocketsphinx_continuous, fillers and variant marks removed.
     static QList<RefWord> referenceWords(const QString& wav)
     {
-        QByteArray output;
         QProcess process;
-        process.start(QStringLiteral("pocketsphinx_continuous"),
-                      {QStringLiteral("-infile"), wav, QStringLiteral("-time"), QStringLiteral("yes"),
-                       QStringLiteral("-logfn"), QStringLiteral("/dev/null")});
+        process.start(QStringLiteral("pocketsphinx_continuous"), {"-infile", wav, "-time", "yes", "-logfn", "/dev/null"});
         process.waitForFinished(120000);
-        output = process.readAllStandardOutput();
+        const QByteArray output = process.readAllStandardOutput();
         QList<RefWord> words;
         for (const QByteArray& line : output.split('\n')) {
             const QList<QByteArray> fields = line.trimmed().split(' ');
@@ -148,31 +143,6 @@ private slots:
             previousEnd = end;
         }
         QCOMPARE(word, m_reference.size());
-    }
-
-    void workingAssFileLoadsInLibass()
-    {
-        CaptionManager* captions = CaptionManager::instance();
-        QSignalSpy events(GlobalManager::instance(), &GlobalManager::globalEvent);
-        captions->createCaptions(m_reply, true);
-        QTRY_VERIFY_WITH_TIMEOUT(hasEvent(events, AppConfig::CREATE_CAPTION_COMPLETE), 5000);
-        const QJsonArray utterances = QJsonDocument::fromJson(m_reply).object().value("utterances").toArray();
-        QCOMPARE(captions->getCaptions().size(), utterances.size());
-
-        ASS_Library* library = ass_library_init();
-        const QByteArray path = captions->getTempAssFilePath().toUtf8();
-        ASS_Track* track = ass_read_file(library, const_cast<char*>(path.constData()), const_cast<char*>("UTF-8"));
-        QVERIFY(track);
-        QCOMPARE(track->n_events, utterances.size());
-        for (int i = 0; i < track->n_events; ++i) {
-            const QJsonObject utterance = utterances.at(i).toObject();
-            QCOMPARE(QString::fromUtf8(track->events[i].Text), utterance.value("text").toString());
-            QCOMPARE(captions->getCaptions().at(i)->text, utterance.value("text").toString());
-            QVERIFY(qAbs(track->events[i].Start - utterance.value("start_time").toInt()) <= 50);
-            QVERIFY(qAbs(track->events[i].Start + track->events[i].Duration - utterance.value("end_time").toInt()) <= 50);
-        }
-        ass_free_track(track);
-        ass_library_done(library);
     }
 
     void missingFfmpegStillEndsTheExtraction()
