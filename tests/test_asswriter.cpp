@@ -145,14 +145,23 @@ private slots:
         QVERIFY(rewritten);
         compareWithList(rewritten, {QStringLiteral("{\\fs20\\bord2\\shad1\\pos(192,268)}"), QString()});
         QCOMPARE(fileStyleCount(rewritten), 2);
+
+        // Saved as ASS: the same events, styles and override blocks.
+        const QString saved = QFileInfo(source).absolutePath() + QStringLiteral("/saved.ass");
+        QVERIFY2(m->saveCaptionFile(saved), qPrintable(m->lastError()));
+        ASS_Track* reloaded = readBack(saved);
+        QVERIFY(reloaded);
+        compareWithList(reloaded, {QStringLiteral("{\\fs20\\bord2\\shad1\\pos(192,268)}"), QString()});
+        QCOMPARE(fileStyleCount(reloaded), 2);
         ass_free_track(track);
         ass_free_track(rewritten);
+        ass_free_track(reloaded);
     }
 
 private:
-    ASS_Track* readBack()
+    ASS_Track* readBack(const QString& file = QString())
     {
-        QByteArray path = QFile::encodeName(m->getTempAssFilePath());
+        QByteArray path = QFile::encodeName(file.isEmpty() ? m->getTempAssFilePath() : file);
         return ass_read_file(m_library, path.data(), nullptr);
     }
 
