@@ -327,12 +327,7 @@ int main(int argc, char* argv[])
 {
     // Never touch the real user's settings, logs or pictures.
     QTemporaryDir home;
-    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
-        qputenv(name, home.path().toUtf8() + '/' + name);
-    }
-    qputenv("TMPDIR", home.path().toUtf8());
-    qputenv("GLIMMER_TEST", "1");
-    QDir().mkpath(home.path() + QStringLiteral("/HOME"));
+    TestSupport::isolateEnvironment(home.path());
 
     QApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C");

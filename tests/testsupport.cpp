@@ -271,4 +271,15 @@ void answerConfirmation(const QString& answer, QString* question)
     poll->start(20);
 }
 
+void isolateEnvironment(const QString& root)
+{
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
+        qputenv(name, root.toUtf8() + '/' + name);
+    }
+    qputenv("TMPDIR", root.toUtf8());
+    qputenv("GLIMMER_TEST", "1");
+    QDir().mkpath(root + QStringLiteral("/HOME"));
+    QDir().mkpath(root + QStringLiteral("/XDG_CONFIG_HOME"));
+}
+
 } // namespace TestSupport

@@ -60,6 +60,10 @@ QRect changedBox(const QImage& a, const QImage& b, int threshold = 24);
 QList<QVariant> eventValues(const QSignalSpy& spy, const QString& name);
 bool hasEvent(const QSignalSpy& spy, const QString& name);
 
+// Points HOME, the XDG folders and TMPDIR into root, for a program that must
+// not touch the real user's settings, logs or pictures; call before the application object.
+void isolateEnvironment(const QString& root);
+
 // Runs the layout requests (and what they post in turn) that are waiting.
 void settleLayouts();
 
