@@ -22,6 +22,8 @@ public:
     virtual void seekForCapture(double seconds) = 0;
     // The frame on screen at video resolution with the subtitles burnt in; null on failure.
     virtual QPixmap snapshot() = 0;
+    // The same without blocking: snapshotTaken() follows, from the event loop.
+    virtual void requestSnapshot();
     virtual double currentSecond() = 0;
     virtual int currentFrame() = 0;
     // Length of the loaded video in seconds; negative when unknown.
@@ -37,6 +39,8 @@ signals:
     void frameReady();
     // A subtitle file was added to the player (its reply arrived).
     void subtitlesLoaded();
+    // The frame asked for with requestSnapshot(); null on failure.
+    void snapshotTaken(QPixmap pixmap);
 };
 
 #endif // CAPTURESOURCE_H

@@ -325,6 +325,15 @@ void MpvWidget::mpvEventHandle(mpv_event* event)
             } else {
                 captureSeekReplied = true;
             }
+        } else if (event->reply_userdata == RequestSnapshot) {
+            QPixmap pixmap;
+            if (event->error < 0) {
+                emit error(QStringLiteral("Cannot take snapshot"));
+                qDebug() << "Cannot take snapshot:" << mpv_error_string(event->error);
+            } else {
+                pixmap = pixmapFromScreenshot(static_cast<mpv_event_command*>(event->data)->result);
+            }
+            emit snapshotTaken(pixmap);
         } else if (event->reply_userdata == RequestLoadFile) {
             ++loadsAnswered;
             if (event->error < 0 && loadActive && loadsAnswered == loadsIssued) {
@@ -709,31 +718,48 @@ QPair<int, int> MpvWidget::getMpvPlayerSize()
 QPixmap MpvWidget::takeSnapshot(const QString& path)
 {
     Q_UNUSED(path)
-    QPixmap pixmap;
     if (!mpv) {
-        return pixmap;
+        return QPixmap();
     }
     NodeBuilder args{QVariant(QVariantList{QStringLiteral("screenshot-raw"), QStringLiteral("subtitles")})};
     mpv_node result{};
     if (mpv_command_node(mpv, args.node(), &result) < 0) {
         emit error(QStringLiteral("Cannot take snapshot"));
         qDebug() << "Cannot take snapshot: mpv_command_node run failed.";
-        return pixmap;
+        return QPixmap();
     }
+    const QPixmap pixmap = pixmapFromScreenshot(result);
+    mpv_free_node_contents(&result);
+    return pixmap;
+}
+
+bool MpvWidget::requestSnapshot()
+{
+    if (!mpv) {
+        return false;
+    }
+    NodeBuilder args{QVariant(QVariantList{QStringLiteral("screenshot-raw"), QStringLiteral("subtitles")})};
+    if (mpv_command_node_async(mpv, RequestSnapshot, args.node()) < 0) {
+        emit error(QStringLiteral("Cannot take snapshot"));
+        qDebug() << "Cannot take snapshot: mpv_command_node_async run failed.";
+        return false;
+    }
+    return true;
+}
+
+QPixmap MpvWidget::pixmapFromScreenshot(const mpv_node& result)
+{
     if (result.format != MPV_FORMAT_NODE_MAP) {
         emit error(QStringLiteral("Cannot take snapshot"));
         qDebug() << "Cannot take snapshot:node.format != MPV_FORMAT_NODE_MAP";
-        mpv_free_node_contents(&result);
-        return pixmap;
+        return QPixmap();
     }
     QByteArray problem;
     QImage image = FrameGrabber::imageFromScreenshot(result, &problem);
-    mpv_free_node_contents(&result);
     if (image.isNull()) {
         qDebug().noquote().nospace() << "Cannot take snapshot:" << problem;
-        return pixmap;
+        return QPixmap();
     }
     // Moved, not copied: a full-HD frame is 8 MB.
-    pixmap = QPixmap::fromImage(std::move(image));
-    return pixmap;
+    return QPixmap::fromImage(std::move(image));
 }

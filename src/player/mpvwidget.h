@@ -50,6 +50,7 @@ public:
         RequestObserveEof = 20,
         RequestObserveDuration = 21,
         RequestObserveTimePos = 22,
+        RequestSnapshot = 23,
     };
 
     // Throws std::runtime_error when libmpv cannot be created or initialised.
@@ -98,6 +99,10 @@ public:
     // The frame on screen at video resolution, with the subtitles burnt in.
     // The path is accepted for callers that name a target; nothing is written.
     QPixmap takeSnapshot(const QString& path = QString());
+    // The same frame without blocking: libmpv renders it while the window keeps
+    // drawing, and snapshotTaken() brings it (null on failure). False when the
+    // request could not be made; nothing follows then.
+    bool requestSnapshot();
 
     static int roundHalfAwayFromZero(double value);
 
@@ -106,6 +111,7 @@ signals:
     void mpvLaunchEvent();
     void mpvEvents(mpv_event* event);
     void snapshotReady(QImage image);
+    void snapshotTaken(QPixmap pixmap);
     void error(QString text);
     void playbackRestarted(MpvWidget::RestartKind kind);
     // A file could not be opened or decoded (mpv ended it with an error).
@@ -132,6 +138,7 @@ private:
     void issueLoad();
     void failLoad(const QString& reason);
     int runCommand(const QVariantList& args);
+    QPixmap pixmapFromScreenshot(const mpv_node& result);
 
     mpv_handle* mpv = nullptr;
     mpv_render_context* mpv_gl = nullptr;

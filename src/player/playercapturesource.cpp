@@ -9,6 +9,7 @@ PlayerCaptureSource::PlayerCaptureSource(VideoPlayWidget* panel)
 {
     connect(panel, &VideoPlayWidget::subtitleTrackAdded, this, &CaptureSource::subtitlesLoaded);
     connect(panel, &VideoPlayWidget::captureSeekAnswered, this, &CaptureSource::seekAnswered);
+    connect(panel->getMpvWidget(), &MpvWidget::snapshotTaken, this, &CaptureSource::snapshotTaken);
     connect(panel->getMpvWidget(), &MpvWidget::playbackRestarted, this, [this](MpvWidget::RestartKind kind) {
         if (kind == MpvWidget::RestartAfterCaptureSeek) {
             emit frameReady();
@@ -34,6 +35,13 @@ void PlayerCaptureSource::seekForCapture(double seconds)
 QPixmap PlayerCaptureSource::snapshot()
 {
     return m_panel->getMpvWidget()->takeSnapshot();
+}
+
+void PlayerCaptureSource::requestSnapshot()
+{
+    if (!m_panel->getMpvWidget()->requestSnapshot()) {
+        CaptureSource::requestSnapshot();
+    }
 }
 
 double PlayerCaptureSource::currentSecond()

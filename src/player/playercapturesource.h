@@ -16,6 +16,7 @@ public:
     void pause() override;
     void seekForCapture(double seconds) override;
     QPixmap snapshot() override;
+    void requestSnapshot() override;
     double currentSecond() override;
     int currentFrame() override;
     double duration() override;

@@ -43,6 +43,7 @@ CaptureController::CaptureController(CaptureSource* source, ImagesWidget* strip,
     connect(source, &CaptureSource::seekAnswered, this, &CaptureController::seekAnswered);
     connect(source, &CaptureSource::frameReady, this, &CaptureController::frameReady);
     connect(source, &CaptureSource::subtitlesLoaded, this, &CaptureController::subtitlesLoaded);
+    connect(source, &CaptureSource::snapshotTaken, this, &CaptureController::snapshotTaken);
     // Queued captions and the edited one are the manager's records: let go of
     // them before they are freed.
     connect(CaptionManager::instance(), &CaptionManager::aboutToReplaceCaptions, this, [this]() {
@@ -135,9 +136,8 @@ bool CaptureController::seekNextQueued()
     return true;
 }
 
-void CaptureController::captureCheckedStep()
+void CaptureController::captureCheckedStep(const QPixmap& pixmap)
 {
-    const QPixmap pixmap = m_source->snapshot();
     if (pixmap.isNull()) {
         qDebug() << "capture select image failed.";
         finishPass();
@@ -219,14 +219,13 @@ void CaptureController::subtitlesLoaded()
     m_settleTimer->start();
 }
 
-void CaptureController::recaptureSingleStep()
+void CaptureController::recaptureSingleStep(const QPixmap& pixmap)
 {
     if (!m_currentItem) {
         finishPass();
         return;
     }
     qDebug() << "重新截图-单张:" << m_currentItem->getCpatureTime();
-    const QPixmap pixmap = m_source->snapshot();
     setState(State::Captured);
     ImageItem* item = m_currentItem;
     m_currentItem = nullptr;
@@ -239,7 +238,7 @@ void CaptureController::recaptureSingleStep()
     emit recaptureFinished();
 }
 
-void CaptureController::recaptureAllStep()
+void CaptureController::recaptureAllStep(const QPixmap& pixmap)
 {
     const QList<ImageItem*> items = m_recaptureItems;
     if (items.size() <= m_recapturedPixmaps.size()) {
@@ -247,7 +246,6 @@ void CaptureController::recaptureAllStep()
         return;
     }
     qDebug() << "重新截图:" << m_recapturedPixmaps.size() << m_source->currentSecond();
-    const QPixmap pixmap = m_source->snapshot();
     if (pixmap.isNull()) {
         finishPass();
         return;
@@ -315,19 +313,35 @@ void CaptureController::frameReady()
 
 void CaptureController::tryCapture()
 {
-    if (m_state != State::FrameReady || !m_settled) {
+    if (m_state != State::FrameReady || !m_settled || m_shooting) {
         return;
     }
     m_frameTimeout->stop();
+    if (m_pass == Pass::None) {
+        setState(State::Idle);
+        return;
+    }
+    // A blocking snapshot would stall the window (and libmpv's own drawing,
+    // which waits for it) for the whole render of a full-size frame.
+    m_shooting = true;
+    m_source->requestSnapshot();
+}
+
+void CaptureController::snapshotTaken(const QPixmap& pixmap)
+{
+    if (!m_shooting) {
+        return; // not ours: a capture of the frame on screen, or a pass that ended
+    }
+    m_shooting = false;
     switch (m_pass) {
     case Pass::Checked:
-        captureCheckedStep();
+        captureCheckedStep(pixmap);
         break;
     case Pass::RecaptureSingle:
-        recaptureSingleStep();
+        recaptureSingleStep(pixmap);
         break;
     case Pass::RecaptureAll:
-        recaptureAllStep();
+        recaptureAllStep(pixmap);
         break;
     case Pass::None:
         setState(State::Idle);
@@ -365,6 +379,7 @@ void CaptureController::showBusy(const QString& text)
 
 void CaptureController::finishPass()
 {
+    m_shooting = false;
     m_settleTimer->stop();
     m_frameTimeout->stop();
     m_pass = Pass::None;

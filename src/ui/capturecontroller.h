@@ -18,7 +18,8 @@ class QTimer;
 //  - again after a style edit: the strip's frames at their own times, all of
 //    them or the one at the current position.
 // Every capture after a seek waits for the seek's answer, then for 500 ms and
-// for that seek's frame to be on screen, before it takes the snapshot:
+// for that seek's frame to be on screen, before it asks for the snapshot (which
+// the player renders while the window keeps drawing):
 //   Idle -> SeekSent -> SeekAnswered -> FrameReady -> Captured -> (next seek | Idle)
 class CaptureController : public QObject
 {
@@ -87,9 +88,10 @@ private:
     void seekTo(double seconds);
     void setState(State state);
     void tryCapture();
-    void captureCheckedStep();
-    void recaptureSingleStep();
-    void recaptureAllStep();
+    void snapshotTaken(const QPixmap& pixmap);
+    void captureCheckedStep(const QPixmap& pixmap);
+    void recaptureSingleStep(const QPixmap& pixmap);
+    void recaptureAllStep(const QPixmap& pixmap);
     bool seekNextQueued();
     void finishPass();
     void replaceFrame(ImageItem* item, const QPixmap& pixmap);
@@ -100,6 +102,8 @@ private:
     Pass m_pass = Pass::None;
     int m_frameTimeoutMs = kFrameTimeoutMs;
     bool m_settled = false;
+    // A snapshot was asked for and has not come back yet.
+    bool m_shooting = false;
     bool m_busyShown = false;
     QTimer* m_settleTimer;
     QTimer* m_frameTimeout;
