@@ -11,7 +11,6 @@
 #include "loadingdialog.h"
 #include "mainwindow.h"
 #include "messagedialog.h"
-#include "mpvwidget.h"
 #include "previewwidget.h"
 #include "propertyitem.h"
 #include "savefilebar.h"
@@ -73,17 +72,9 @@ private slots:
         m_video = m_dir + QStringLiteral("/holiday.mp4");
         QVERIFY(TestSupport::makeVideo(m_video, 10.0, 1280, 720, 25, true));
         m_srt = m_dir + QStringLiteral("/holiday.srt");
-        QVERIFY(TestSupport::writeFile(m_srt, "1\n00:00:01,000 --> 00:00:02,000\nFirst caption\n\n"
-                                              "2\n00:00:03,000 --> 00:00:04,000\nSecond caption\n\n"
-                                              "3\n00:00:05,040 --> 00:00:06,000\nThird caption\n\n"
-                                              "4\n00:00:07,000 --> 00:00:08,000\nFourth, the last\n\n"));
-
-        qApp->setStyleSheet(AppConfig::loadApplicationStyleSheet());
-        m_window = new MainWindow();
-        m_window->show();
-        m_window->resize(AppConfig::rate(QSize(1100, 741)));
-        QVERIFY(QTest::qWaitForWindowExposed(m_window));
-        m_window->videoPlayWidget()->getMpvWidget()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
+        QVERIFY(TestSupport::writeFile(m_srt, TestSupport::srt({{1000, 2000, "First caption"}, {3000, 4000, "Second caption"},
+                                                               {5040, 6000, "Third caption"}, {7000, 8000, "Fourth, the last"}})));
+        m_window = TestSupport::showMainWindow();
     }
 
     void cleanupTestCase()
@@ -97,9 +88,7 @@ private slots:
     void openVideoAndSubtitles()
     {
         QSignalSpy events(GlobalManager::instance(), &GlobalManager::globalEvent);
-        QVERIFY(m_window->videoPlayWidget()->openFile(m_video));
-        QTRY_VERIFY_WITH_TIMEOUT(GlobalManager::instance()->getCurrentFile().fileName() == QStringLiteral("holiday.mp4"),
-                                 20000);
+        QVERIFY(TestSupport::openVideo(m_window, m_video));
         QCOMPARE(m_window->windowTitle(), QStringLiteral("Glimmer - holiday.mp4"));
         // No captions yet: an empty working file was written and loaded.
         QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(CaptionManager::instance()->getTempAssFilePath()), 5000);
