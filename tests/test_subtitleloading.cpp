@@ -18,32 +18,12 @@
 #include <sys/stat.h>
 
 namespace {
-const QByteArray kStyleSection
-    = "[V4+ Styles]\n"
-      "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, Bold, Italic, "
-      "Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, Alignment, MarginL, "
-      "MarginR, MarginV, Encoding\n"
-      "Style: Default,Arial,20,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,2,1,2,20,20,20,1\n";
-const QByteArray kEventFormat
-    = "[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
-
-QByteArray assFile(const QByteArray& events)
-{
-    return "[Script Info]\nScriptType: v4.00+\n\n" + kStyleSection + "\n" + kEventFormat + events;
-}
+using TestSupport::assFile;
+using TestSupport::captionTexts;
 
 QString readText(const QString& path)
 {
     return QString::fromUtf8(TestSupport::readFile(path));
-}
-
-QStringList captionTexts()
-{
-    QStringList texts;
-    for (const CaptionInfo* info : CaptionManager::instance()->getCaptions()) {
-        texts << info->text;
-    }
-    return texts;
 }
 
 const QString kFrench = QStringLiteral("Café crème, naïve façade à côté de l'hôtel.");
@@ -90,19 +70,17 @@ private slots:
     {
         const QString path = m_dir + QStringLiteral("/fields.ass");
         QVERIFY(TestSupport::writeFile(
-            path, "[Script Info]\nDialogue: 0,0:00:00.00,0:00:01.00,Default,,0,0,0,,before events\n\n"
-                      + kStyleSection
-                      + "Style: Big,Arial,40,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,3,1,"
-                        "2,20,20,20,1\n"
-                        "Style: Big,Arial,44.5,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,"
-                        "4,1,2,20,20,20,1\n"
-                        "Style:Tight,Arial,10\n\n"
-                      + kEventFormat
-                      + "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,nine commas\n"
-                        "Dialogue: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,eight commas\n"
-                        "Comment: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,,a comment\n"
-                        "  Dialogue: 2 , 0:0:5.3 ,0:00:06.00, Big ,Ann, 1,2,3, fx,Hello, world, again  \n"
-                        "Dialogue: 0,0:00:07.00,0:00:08.00,Nowhere,,0,0,0,,{\\i1}unknown style\n"));
+            path, assFile("Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,nine commas\n"
+                          "Dialogue: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,eight commas\n"
+                          "Comment: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,,a comment\n"
+                          "  Dialogue: 2 , 0:0:5.3 ,0:00:06.00, Big ,Ann, 1,2,3, fx,Hello, world, again  \n"
+                          "Dialogue: 0,0:00:07.00,0:00:08.00,Nowhere,,0,0,0,,{\\i1}unknown style\n",
+                          "Style: Big,Arial,40,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,3,1,"
+                          "2,20,20,20,1\n"
+                          "Style: Big,Arial,44.5,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,"
+                          "4,1,2,20,20,20,1\n"
+                          "Style:Tight,Arial,10\n")
+                      .replace("ScriptType: v4.00+", "Dialogue: 0,0:00:00.00,0:00:01.00,Default,,0,0,0,,before events")));
         QCOMPARE(m->loadCaptionFile(path), 0);
         QVERIFY(m->lastError().isEmpty());
         QCOMPARE(m->getAssFilePath(), path);
@@ -188,8 +166,8 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("no [Events]") << "noevents.ass"
-                                     << "[Script Info]\n\n" + kStyleSection
-                                            + "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,orphan\n";
+                                     << assFile("Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,orphan\n")
+                                            .replace("[Events]", "[Fonts]");
         QTest::newRow("empty") << "empty.ass" << QByteArray();
         QByteArray junk(2 * 1024 * 1024, '\0');
         QRandomGenerator generator(1234);
@@ -255,7 +233,8 @@ private slots:
 
     void srtConversion()
     {
-        const QString srt = m_dir + QStringLiteral("/Movie Night.srt");
+        // An upper-case suffix is an SRT all the same.
+        const QString srt = m_dir + QStringLiteral("/Movie Night.SRT");
         QVERIFY(TestSupport::writeFile(
             srt, QStringLiteral("\uFEFF1\r\n00:00:01,000 --> 00:00:02,500\r\n{\\an8}Up top, with a comma\r\n\r\n"
                                 "2\r\n00:00:03,000 --> 00:00:04,000\r\n%1\r\n\r\n"
@@ -290,16 +269,6 @@ private slots:
         QCOMPARE(first->captionEdit->fontSize, 20);
         QCOMPARE(first->captionEdit->border, 2);
         QVERIFY(m->lastError().isEmpty());
-    }
-
-    void upperCaseSuffix()
-    {
-        const QString srt = m_dir + QStringLiteral("/SHOUT.SRT");
-        QVERIFY(TestSupport::writeFile(srt, srtText({QStringLiteral("LOUD, CLEAR")}).toUtf8()));
-        const QString ass = GlobalManager::instance()->srtToAss(srt);
-        QVERIFY(ass.endsWith(QStringLiteral("/Glimmer/SHOUT.ass")));
-        QCOMPARE(m->loadCaptionFile(ass), 0);
-        QCOMPARE(captionTexts(), QStringList({QStringLiteral("LOUD, CLEAR")}));
     }
 
     void legacyEncodedSrt_data()

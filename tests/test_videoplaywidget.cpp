@@ -387,14 +387,8 @@ void TestVideoPlayWidget::captureSeekRepliesFollowCaptureType()
 void TestVideoPlayWidget::subtitleAddAndRemove()
 {
     const QString ass = m_dir + QStringLiteral("/panel.ass");
-    QVERIFY(TestSupport::writeFile(ass, QByteArrayLiteral(
-        "[Script Info]\nScriptType: v4.00+\n\n[V4+ Styles]\n"
-        "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, Bold, "
-        "Italic, Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, Alignment, "
-        "MarginL, MarginR, MarginV, Encoding\n"
-        "Style: Default,Arial,24,&H00FFFFFF,&H000000FF,&H00000000,&H00000000,0,0,0,0,100,100,0,0,1,1,1,2,10,10,10,1\n"
-        "\n[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n"
-        "Dialogue: 0,0:00:00.00,0:00:09.00,Default,,0,0,0,,{\\pos(192,268)}GLIMMER CAPTION\n")));
+    QVERIFY(TestSupport::writeFile(
+        ass, TestSupport::assFile("Dialogue: 0,0:00:00.00,0:00:09.00,Default,,0,0,0,,{\\pos(192,268)}GLIMMER CAPTION\n")));
     Panel panel;
     QVERIFY(panel.exposed());
     QVERIFY(panel.open(m_video));
