@@ -304,13 +304,9 @@ private slots:
     void editLoadedFileLine()
     {
         const QString source = TestSupport::makeWorkDir(QStringLiteral("linelevel")) + QStringLiteral("/in.ass");
-        const QByteArray original
-            = "[Script Info]\r\nScriptType: v4.00+\r\n\r\n[V4+ Styles]\r\n"
-              "Style: Default,Arial,20,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,-1,0,0,0,100,100,0,0,1,2,3,2,"
-              "20,20,20,1\r\n\r\n[Events]\r\n"
-              "Format: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\r\n"
-              "Dialogue: 0,0:00:00.00,0:00:01.00,Default,,0,0,0,,0\r\n"
-              "Dialogue: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,,keep me\r\n";
+        const QByteArray original = TestSupport::assFile("Dialogue: 0,0:00:00.00,0:00:01.00,Default,,0,0,0,,0\n"
+                                                         "Dialogue: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,,keep me\n")
+                                        .replace("\n", "\r\n");
         QVERIFY(TestSupport::writeFile(source, original));
         QCOMPARE(m->loadCaptionFile(source), 0);
         CaptionInfo* first = m->getCaptionDataByIndex(1);
@@ -446,8 +442,7 @@ private slots:
     }
 
     // Saved captions come back the same: SRT through ffmpeg's reader, ASS
-    // through ours and ffmpeg's (libass's own parser is what ffmpeg uses to
-    // read ASS here), with the styles and override blocks kept.
+    // through ours (test_asswriter reads a saved ASS back with libass).
     void savedCaptionsReloadTheSame()
     {
         m->createCaptions(utterances({{1230, 2340, QStringLiteral("First, with a comma")},
@@ -485,9 +480,6 @@ private slots:
         edited->captionEdit->fontSize = 30;
         m->changeCaptionNew(edited, false);
         QVERIFY(m->saveCaptionFile(dir + QStringLiteral("/out.ass")));
-        const QString ass = readText(dir + QStringLiteral("/out.ass"));
-        QVERIFY(ass.contains(QStringLiteral("{\\fs30\\bord")));
-        QVERIFY(ass.contains(QStringLiteral("Style: Default,")));
         QCOMPARE(m->loadCaptionFile(dir + QStringLiteral("/out.ass")), 0);
         QList<std::tuple<QString, int, int>> got;
         for (const CaptionInfo* info : m->getCaptions()) {
@@ -497,8 +489,6 @@ private slots:
                                        info->endMs()));
         }
         QCOMPARE(got, expected);
-        QCOMPARE(TestSupport::ffmpeg({"-i", dir + "/out.ass", dir + "/fromass.srt"}), 0);
-        QCOMPARE(readText(dir + QStringLiteral("/fromass.srt")).count(QStringLiteral(" --> ")), 3);
 
         // Failures say why and write nothing.
         QVERIFY(!m->saveCaptionFile(dir + QStringLiteral("/out.txt")));
