@@ -86,6 +86,9 @@ private slots:
 
 private:
     QStringList waitFinished(QSignalSpy& spy, QStringList* errors = nullptr);
+    // Exports the ticked frames one by one, or the stitched picture; returns the files written.
+    QStringList exportFrames(QStringList* errors = nullptr);
+    QStringList exportStitch(QStringList* errors = nullptr);
 
     QProcess m_bus;
     FakeFileManager m_fileManager;
@@ -163,6 +166,20 @@ QStringList TestExport::waitFinished(QSignalSpy& spy, QStringList* errors)
     return args.at(0).toStringList();
 }
 
+QStringList TestExport::exportFrames(QStringList* errors)
+{
+    QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
+    m_strip->exportSelectedHandle(QString());
+    return waitFinished(spy, errors);
+}
+
+QStringList TestExport::exportStitch(QStringList* errors)
+{
+    QSignalSpy spy(m_preview, &PreviewWidget::exportFinishedSignal);
+    m_preview->exportButtonClickHandle();
+    return waitFinished(spy, errors);
+}
+
 void TestExport::compositePngAndSecondExport()
 {
     m_strip->addImage(capture(solidFrame(Qt::red), 1 / 25.0, 1));
@@ -195,8 +212,7 @@ void TestExport::compositePngAndSecondExport()
     QCOMPARE(m_fileManager.calls.first(), QStringList{QUrl::fromLocalFile(expected).toString(QUrl::FullyEncoded)});
 
     const QByteArray before = readFile(expected);
-    m_preview->exportButtonClickHandle();
-    const QStringList second = waitFinished(spy);
+    const QStringList second = exportStitch();
     QCOMPARE(second, QStringList{m_out + QStringLiteral("/holiday_stitch_1(1).png")});
     QCOMPARE(readFile(expected), before);
     QCOMPARE(QImageReader(second.first()).size(), QSize(320, 260));
@@ -223,10 +239,8 @@ void TestExport::singleFramesInFormat()
     m_strip->addImage(capture(solidFrame(Qt::blue, 100, 100), 3 / 25.0, 3));
     m_strip->items().at(1)->checkBox()->click(); // out of the selection
 
-    QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
-    m_strip->exportSelectedHandle(QString());
     QStringList errors;
-    const QStringList files = waitFinished(spy, &errors);
+    const QStringList files = exportFrames(&errors);
     QCOMPARE(errors, QStringList());
     QCOMPARE(files, (QStringList{QStringLiteral("%1/holiday_1.%2").arg(m_out, suffix),
                                  QStringLiteral("%1/holiday_2.%2").arg(m_out, suffix)}));
@@ -248,17 +262,14 @@ void TestExport::scaleHalvesWidth()
     m_preview->initScaleProperty();
     QCOMPARE(m_preview->propertyItem(PropertyItem::Width)->getText(), QStringLiteral("500"));
     QCOMPARE(m_preview->propertyItem(PropertyItem::Height)->getText(), QStringLiteral("200"));
-    QSignalSpy spy(m_preview, &PreviewWidget::exportFinishedSignal);
-    m_preview->exportButtonClickHandle();
-    const QStringList files = waitFinished(spy);
+    const QStringList files = exportStitch();
     QCOMPARE(files.size(), 1);
     QCOMPARE(QImageReader(files.first()).size(), QSize(500, 200));
 
     // Scale 0 writes nothing and says so.
     m_preview->propertyItem(PropertyItem::Scale)->setText(QStringLiteral("0"));
-    m_preview->exportButtonClickHandle();
     QStringList errors;
-    QCOMPARE(waitFinished(spy, &errors), QStringList());
+    QCOMPARE(exportStitch(&errors), QStringList());
     QCOMPARE(errors.size(), 1);
     QCOMPARE(QDir(m_out).entryList(QDir::Files).size(), 1);
 }
@@ -307,10 +318,8 @@ void TestExport::unusableOutputFolderFallsBack()
     manager->saveSettings(AppConfig::FILE_SAVE_PATH, blocker + QStringLiteral("/sub"));
     m_strip->addImage(capture(solidFrame(Qt::red), 1 / 25.0, 1));
 
-    QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
-    m_strip->exportSelectedHandle(QString());
     QStringList errors;
-    const QStringList files = waitFinished(spy, &errors);
+    const QStringList files = exportFrames(&errors);
     QCOMPARE(errors, QStringList());
     QCOMPARE(files.size(), 1);
     const QString fallback = manager->getWritePath(AppConfig::APP_NAME);
@@ -347,10 +356,8 @@ void TestExport::tooTallForWebpIsReported()
     m_strip->addImage(capture(solidFrame(Qt::green, 320, 17000), 2 / 25.0, 2));
     m_strip->addImage(capture(solidFrame(Qt::blue), 3 / 25.0, 3));
 
-    QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
-    m_strip->exportSelectedHandle(QString());
     QStringList errors;
-    const QStringList files = waitFinished(spy, &errors);
+    const QStringList files = exportFrames(&errors);
     // What could be written is kept; the failure names its picture and the way out.
     QCOMPARE(files, (QStringList{m_out + QStringLiteral("/holiday_1.webp"), m_out + QStringLiteral("/holiday_3.webp")}));
     QCOMPARE(errors.size(), 1);
@@ -450,10 +457,8 @@ void TestExport::previewAndExportAfterManyCaptures()
     // 100 % shows, and the export writes, the full-size picture.
     m_preview->changeZoomHandle(ImageCanvas::Actual);
     QCOMPARE(canvas->pixmap().size(), QSize(640, 35640));
-    QSignalSpy spy(m_preview, &PreviewWidget::exportFinishedSignal);
-    m_preview->exportButtonClickHandle();
     QStringList errors;
-    const QStringList files = waitFinished(spy, &errors);
+    const QStringList files = exportStitch(&errors);
     QCOMPARE(errors, QStringList());
     QCOMPARE(files.size(), 1);
     const QImage written = QImage(files.first()).convertToFormat(QImage::Format_RGB32);
@@ -583,11 +588,8 @@ void TestExport::percentSignsStayAsWritten()
 
     // Exported twice: the second file takes the next free name.
     m_strip->addImage(capture(solidFrame(Qt::red), 1 / 25.0, 1));
-    QSignalSpy spy(m_strip, &ImagesWidget::exportFinishedSignal);
-    m_strip->exportSelectedHandle(QString());
-    QCOMPARE(waitFinished(spy), QStringList{m_out + QLatin1Char('/') + text + QStringLiteral("_1.png")});
-    m_strip->exportSelectedHandle(QString());
-    QCOMPARE(waitFinished(spy), QStringList{m_out + QLatin1Char('/') + text + QStringLiteral("_1(1).png")});
+    QCOMPARE(exportFrames(), QStringList{m_out + QLatin1Char('/') + text + QStringLiteral("_1.png")});
+    QCOMPARE(exportFrames(), QStringList{m_out + QLatin1Char('/') + text + QStringLiteral("_1(1).png")});
 }
 
 QTEST_MAIN(TestExport)
