@@ -31,6 +31,7 @@ public:
         mpv()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
         widget->resize(900, 640);
         widget->show();
+        shown = QTest::qWaitForWindowExposed(widget.get());
         QObject::connect(mpv(), &MpvWidget::playbackRestarted, widget.get(), [this](MpvWidget::RestartKind kind) {
             restarts.append(kind);
             order.append(QStringLiteral("restart%1").arg(int(kind)));
@@ -56,15 +57,16 @@ public:
     }
 
     MpvWidget* mpv() const { return widget->getMpvWidget(); }
-    bool exposed() { return QTest::qWaitForWindowExposed(widget.get()); }
-
-    bool open(const QString& path)
+    bool open(const QString& path, bool paused = false)
     {
         restarts.clear();
-        if (!widget->openFile(path)) {
+        if (!shown || !widget->openFile(path) || !waitFor(MpvWidget::RestartAfterLoad, 20000)) {
             return false;
         }
-        return waitFor(MpvWidget::RestartAfterLoad, 20000);
+        if (paused) {
+            widget->pause();
+        }
+        return true;
     }
 
     bool waitFor(MpvWidget::RestartKind kind, int timeoutMs = 10000)
@@ -83,6 +85,7 @@ public:
 
     std::unique_ptr<VideoPlayWidget> widget;
     CaptureController* capture;
+    bool shown = false;
     QList<MpvWidget::RestartKind> restarts;
     QList<QPair<quint64, int>> replies;
     QStringList order;
@@ -133,7 +136,6 @@ void TestVideoPlayWidget::init()
 void TestVideoPlayWidget::startState()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
     QVERIFY(panel.widget->isLogoShown());
     QVERIFY(!panel.mpv()->isVisible());
     QVERIFY(!panel.widget->isLoadFile());
@@ -159,7 +161,6 @@ void TestVideoPlayWidget::mutedAtStart()
     GlobalManager::instance()->saveSettings(AppConfig::PLAYER_MUTE, true);
     GlobalManager::instance()->saveSettings(AppConfig::PLAYER_VOLUME, 40);
     Panel panel;
-    QVERIFY(panel.exposed());
     QVERIFY(!panel.widget->soundSlider()->isEnabled());
     QCOMPARE(panel.widget->soundSlider()->value(), 40);
     QVERIFY(panel.widget->soundButton()->property("muted").toBool());
@@ -183,7 +184,6 @@ void TestVideoPlayWidget::mutedAtStart()
 void TestVideoPlayWidget::openFileShowsVideoAndFigures()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
     QVERIFY(!panel.widget->openFile(m_dir + QStringLiteral("/nothing-here.mp4")));
     QVERIFY(!panel.widget->openFile(m_dir));
     QVERIFY(panel.widget->isLogoShown());
@@ -217,9 +217,7 @@ void TestVideoPlayWidget::openFileShowsVideoAndFigures()
 void TestVideoPlayWidget::labelsFollowFramesAndSliderSeeks()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
-    QVERIFY(panel.open(m_video));
-    panel.widget->pause();
+    QVERIFY(panel.open(m_video, true));
     QSignalSpy times(panel.widget.get(), &VideoPlayWidget::playerTimePos);
 
     // 2.04 s is frame 51: the second frame of second 2 reads 01 (frames count from 0).
@@ -258,9 +256,7 @@ void TestVideoPlayWidget::labelsFollowFramesAndSliderSeeks()
 void TestVideoPlayWidget::transportButtons()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
-    QVERIFY(panel.open(m_video));
-    panel.widget->pause();
+    QVERIFY(panel.open(m_video, true));
     QVERIFY(panel.seekForCapture(1.0));
     QCOMPARE(panel.mpv()->getCurrentFrame(), 25);
 
@@ -301,7 +297,6 @@ void TestVideoPlayWidget::transportButtons()
 void TestVideoPlayWidget::spaceShortcutTogglesPlayback()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
     panel.widget->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(panel.widget.get()));
     QVERIFY(panel.open(m_video));
@@ -318,14 +313,12 @@ void TestVideoPlayWidget::spaceShortcutTogglesPlayback()
 void TestVideoPlayWidget::captureButtons()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
     QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
     // Nothing loaded: capture fails quietly.
     panel.click(VideoPlayWidget::ButtonCapture);
     QVERIFY(!TestSupport::hasEvent(bus, AppConfig::CAPTURE_IMAGE));
 
-    QVERIFY(panel.open(m_video));
-    panel.widget->pause();
+    QVERIFY(panel.open(m_video, true));
     QVERIFY(panel.seekForCapture(3.0));
     panel.click(VideoPlayWidget::ButtonCapture);
     const QList<QVariant> captures = TestSupport::eventValues(bus, AppConfig::CAPTURE_IMAGE);
@@ -348,9 +341,7 @@ void TestVideoPlayWidget::captureButtons()
 void TestVideoPlayWidget::captureSeekRepliesFollowCaptureType()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
-    QVERIFY(panel.open(m_video));
-    panel.widget->pause();
+    QVERIFY(panel.open(m_video, true));
     QSignalSpy events(panel.widget.get(), &VideoPlayWidget::captureEventSignal);
     QSignalSpy select(panel.widget.get(), &VideoPlayWidget::captureSelectSignal);
 
@@ -390,9 +381,7 @@ void TestVideoPlayWidget::subtitleAddAndRemove()
     QVERIFY(TestSupport::writeFile(
         ass, TestSupport::assFile("Dialogue: 0,0:00:00.00,0:00:09.00,Default,,0,0,0,,{\\pos(192,268)}GLIMMER CAPTION\n")));
     Panel panel;
-    QVERIFY(panel.exposed());
-    QVERIFY(panel.open(m_video));
-    panel.widget->pause();
+    QVERIFY(panel.open(m_video, true));
     QVERIFY(panel.seekForCapture(4.0));
     const QImage plain = panel.mpv()->takeSnapshot().toImage();
     // Opaque pixels: mpv's fourth byte is padding, not alpha.
@@ -427,7 +416,6 @@ void TestVideoPlayWidget::subtitleAddAndRemove()
 void TestVideoPlayWidget::dropAcceptsOnlyOneFile()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
     QSignalSpy dragged(panel.widget.get(), &VideoPlayWidget::dragFileSignal);
     const QPoint inside(100, 100);
 
@@ -470,7 +458,6 @@ void TestVideoPlayWidget::badFilesReturnToLogo()
                                                   {QStringLiteral("words.mp4"), QByteArray("just some words\n")},
                                                   {QStringLiteral("empty.mkv"), QByteArray()}};
     Panel panel;
-    QVERIFY(panel.exposed());
     QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
     for (const auto& file : files) {
         const QString path = m_dir + QLatin1Char('/') + file.first;
@@ -515,8 +502,7 @@ void TestVideoPlayWidget::unusualVideos()
     QVERIFY(TestSupport::makeVideo(silent, 3.0, 640, 360, 30, false));
     {
         Panel panel;
-        QVERIFY(panel.exposed());
-        QVERIFY(panel.open(silent));
+            QVERIFY(panel.open(silent));
         QCOMPARE(panel.mpv()->getFrameInSecond(), 30);
         QCOMPARE(panel.mpv()->pollInterval(), 1000 / 32);
         QTRY_VERIFY_WITH_TIMEOUT(panel.mpv()->getCurrentSecond() > 0.2, 5000);
@@ -527,10 +513,8 @@ void TestVideoPlayWidget::unusualVideos()
     QVERIFY(TestSupport::makeVideo(uhd, 1.0, 3840, 2160, 25, true));
 
     Panel panel;
-    QVERIFY(panel.exposed());
     QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
-    QVERIFY(panel.open(uhd));
-    panel.widget->pause();
+    QVERIFY(panel.open(uhd, true));
     QVERIFY(panel.seekForCapture(0.5));
     panel.click(VideoPlayWidget::ButtonCapture);
     const QList<QVariant> captures = TestSupport::eventValues(bus, AppConfig::CAPTURE_IMAGE);
