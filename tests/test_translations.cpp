@@ -313,7 +313,7 @@ private slots:
         }
     }
 
-    void cataloguesAreCompleteAndCurrent()
+    void cataloguesAreCompleteCurrentAndSound()
     {
         const QString lupdate = lupdateProgram();
         QVERIFY2(!lupdate.isEmpty(), "lupdate is needed to compare the catalogues with the sources");
@@ -340,6 +340,13 @@ private slots:
             for (const Message& m : before) {
                 keysBefore << m.context + QLatin1Char('|') + m.source;
                 QVERIFY2(m.type.isEmpty(), qPrintable(QStringLiteral("%1: %2 entry \"%3\"").arg(lang, m.type, m.source)));
+                // Translations keep the placeholders and the markup; English is the source itself.
+                for (const QString& text : m.translations) {
+                    QVERIFY2(placeholders(text) == placeholders(m.source) && tags(text) == tags(m.source),
+                             qPrintable(QStringLiteral("%1: \"%2\" became \"%3\"").arg(lang, m.source, text)));
+                }
+                QVERIFY(lang != QLatin1String("en") || m.numerus || m.source.at(0).unicode() >= 0x80
+                        || m.translations.constFirst() == m.source);
             }
             QSet<QString> keysAfter;
             for (const Message& m : after) {
@@ -359,29 +366,29 @@ private slots:
         }
     }
 
-    void translationsKeepPlaceholdersAndMarkup()
+    void startUpChoice_data()
     {
-        for (const QString& lang : kShortNames) {
-            QString error;
-            const QList<Message> messages = readCatalogue(
-                QStringLiteral(GLIMMER_SOURCE_DIR "/resources/i18n/glimmer_%1.ts").arg(lang), &error);
-            QVERIFY2(error.isEmpty(), qPrintable(error));
-            for (const Message& m : messages) {
-                QStringList expected = placeholders(m.source);
-                for (const QString& text : m.translations) {
-                    QStringList found = placeholders(text);
-                    QVERIFY2(found == expected,
-                             qPrintable(QStringLiteral("%1: \"%2\" has %3, its translation \"%4\" has %5")
-                                            .arg(lang, m.source, expected.join(QLatin1Char(' ')), text,
-                                                 found.join(QLatin1Char(' ')))));
-                    QVERIFY2(tags(text) == tags(m.source),
-                             qPrintable(QStringLiteral("%1: markup of \"%2\" changed").arg(lang, m.source)));
-                }
-                if (lang == QLatin1String("en") && !m.numerus && m.source.at(0).unicode() < 0x80) {
-                    QCOMPARE(m.translations.constFirst(), m.source);
-                }
-            }
-        }
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<int>("stored");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("de_DE") << "de_DE" << -1 << int(TranslateManager::German);
+        QTest::newRow("en_US") << "en_US" << -1 << int(TranslateManager::English);
+        QTest::newRow("pt_BR") << "pt_BR" << -1 << int(TranslateManager::Portuguese);
+        // Country parts are capitals: no Chinese or Japanese match by locale.
+        QTest::newRow("zh_CN") << "zh_CN" << -1 << int(TranslateManager::English);
+        QTest::newRow("zh_HK") << "zh_HK" << -1 << int(TranslateManager::English);
+        QTest::newRow("ja_JP") << "ja_JP" << -1 << int(TranslateManager::English);
+        QTest::newRow("stored wins") << "de_DE" << 8 << int(TranslateManager::Japanese);
+        QTest::newRow("stored zero") << "fr_FR" << 0 << int(TranslateManager::English);
+        QTest::newRow("C locale") << "C" << -1 << int(TranslateManager::English);
+    }
+
+    void startUpChoice()
+    {
+        QFETCH(QString, locale);
+        QFETCH(int, stored);
+        QFETCH(int, expected);
+        QCOMPARE(TranslateManager::chooseLangType(locale, stored), expected);
     }
 
     void compiledCataloguesAreEmbedded()
@@ -447,7 +454,17 @@ private slots:
                                   "Export",     "Grid",             "Width",            "OK"};
         QCOMPARE(texts(), english);
 
+        QSignalSpy notify(TranslateManager::instance(), &TranslateManager::notify);
+        QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
         chooseLanguage(TranslateManager::German);
+        QCOMPARE(notify.count(), 1);
+        QCOMPARE(notify.at(0).at(0).toInt(), int(TranslateManager::German));
+        QCOMPARE(m_window->translator()->language(), QStringLiteral("de_DE"));
+        QCOMPARE(TestSupport::eventValues(bus, AppConfig::SETTING_CHANGE), QList<QVariant>{AppConfig::APP_LANG});
+        // The choice is kept: the next start follows the menu whatever the system locale.
+        TranslateManager::instance()->init();
+        QCOMPARE(TranslateManager::instance()->getLangType(), TranslateManager::German);
+        QCOMPARE(TranslateManager::instance()->getCurrentShortName(), QStringLiteral("de"));
         const QStringList german{"Video öffnen", "Alle auswählen (2/2)", "Ausgewählte erfassen", "Stil übernehmen",
                                  "Exportieren",  "Raster",               "Breite",             "OK"};
         QCOMPARE(texts(), german);
