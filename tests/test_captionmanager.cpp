@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QRegularExpression>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -69,8 +68,6 @@ private slots:
 
         // The pointer form saves the key; the key form does not.
         m->setCurrentLangItem(m->getLangItemByKey(8));
-        QSettings settings(QSettings::UserScope, AppConfig::APP_NAME, QString());
-        settings.sync();
         QCOMPARE(GlobalManager::instance()->readSettings(AppConfig::AI_CAPTION_LANG).toInt(), 8);
         QVERIFY(m->getTempAssFilePath().endsWith(QStringLiteral("/holiday.clip-ja-JP.ass")));
 
