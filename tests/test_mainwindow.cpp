@@ -71,8 +71,10 @@ private slots:
         m_video = m_dir + QStringLiteral("/holiday.mp4");
         QVERIFY(TestSupport::makeVideo(m_video, 10.0, 1280, 720, 25, true));
         m_srt = m_dir + QStringLiteral("/holiday.srt");
-        QVERIFY(TestSupport::writeFile(m_srt, TestSupport::srt({{1000, 2000, "First caption"}, {3000, 4000, "Second caption"},
-                                                               {5040, 6000, "Third caption"}, {7000, 8000, "Fourth, the last"}})));
+        QVERIFY(TestSupport::writeFile(m_srt, TestSupport::srt({{1000, 2000, "First caption"},
+                                                               {3000, 4000, "Second caption"},
+                                                               {5040, 6000, "Third caption"},
+                                                               {7000, 8000, "Fourth, the last"}})));
         m_window = TestSupport::showMainWindow();
     }
 

@@ -429,7 +429,8 @@ private slots:
         const QString video = m_dir + QStringLiteral("/holiday.mp4");
         QVERIFY(TestSupport::makeVideo(video, 6.0, 1280, 720, 25, true));
         const QString srt = m_dir + QStringLiteral("/holiday.srt");
-        QVERIFY(TestSupport::writeFile(srt, TestSupport::srt({{1000, 2000, "First caption"}, {3000, 4000, "Second caption"}})));
+        QVERIFY(TestSupport::writeFile(srt, TestSupport::srt({{1000, 2000, "First caption"},
+                                                             {3000, 4000, "Second caption"}})));
         QVERIFY(TestSupport::openVideo(m_window, video));
         m_window->loadCaption(srt);
         QTRY_COMPARE_WITH_TIMEOUT(CaptionManager::instance()->getCaptions().size(), 2, 30000);

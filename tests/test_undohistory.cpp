@@ -70,8 +70,10 @@ private slots:
         m_video = m_dir + QStringLiteral("/walk.mp4");
         QVERIFY(TestSupport::makeVideo(m_video, 4.0, 640, 360, 25, false));
         const QString srt = m_dir + QStringLiteral("/walk.srt");
-        QVERIFY(TestSupport::writeFile(srt, TestSupport::srt({{500, 1000, m_texts.at(0)}, {1500, 2000, m_texts.at(1)},
-                                                             {2500, 3000, m_texts.at(2)}, {9000, 10000, m_texts.at(3)}})));
+        QVERIFY(TestSupport::writeFile(srt, TestSupport::srt({{500, 1000, m_texts.at(0)},
+                                                             {1500, 2000, m_texts.at(1)},
+                                                             {2500, 3000, m_texts.at(2)},
+                                                             {9000, 10000, m_texts.at(3)}})));
         m_window = TestSupport::showMainWindow();
         m_history = m_window->findChild<UndoHistory*>();
         QVERIFY(m_history);
