@@ -134,13 +134,9 @@ private slots:
             "Style: Title , Noto Sans,32.5,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,-1,0,0,0,100,100,0,0,1,"
             "2.5,0,8,10,10,10,1");
         QScopedPointer<CaptionStyle> style(CaptionManager::parseStyleLine(line));
-        QCOMPARE(style->name, QStringLiteral("Title"));
-        QCOMPARE(style->fontname, QStringLiteral("Noto Sans"));
-        QCOMPARE(style->fontsize, QStringLiteral("32.5"));
-        QCOMPARE(style->bold, QStringLiteral("-1"));
-        QCOMPARE(style->outline, QStringLiteral("2.5"));
-        QCOMPARE(style->alignment, QStringLiteral("8"));
-        QCOMPARE(style->encoding, QStringLiteral("1"));
+        QCOMPARE((QStringList{style->name, style->fontname, style->fontsize, style->bold, style->outline,
+                              style->alignment, style->encoding}),
+                 (QStringList{"Title", "Noto Sans", "32.5", "-1", "2.5", "8", "1"}));
         QCOMPARE(style->fields.size(), 23);
         QCOMPARE(style->fields.first(), QStringLiteral("Title "));
         QCOMPARE(CaptionManager::formatStyleLine(*style), QString(line).replace(QStringLiteral("Title , Noto"),
@@ -282,12 +278,9 @@ private slots:
                                       "Dialogue: 0,0:0:5.0,0:0:6.0,StyleAll,,0,0,0,,%1three\n")
                            .arg(block));
         for (CaptionInfo* info : m->getCaptions()) {
-            QCOMPARE(info->style, QStringLiteral("StyleAll"));
-            QCOMPARE(info->captionStyle->name, QStringLiteral("StyleAll"));
-            QCOMPARE(info->captionEdit->x, 50);
-            QCOMPARE(info->captionEdit->y, 60);
-            QCOMPARE(info->captionEdit->fontSize, 30);
-            QCOMPARE(info->captionEdit->border, 3);
+            QCOMPARE(info->style + info->captionStyle->name, QStringLiteral("StyleAllStyleAll"));
+            const CaptionEdit* edit = info->captionEdit;
+            QCOMPARE((QList<int>{edit->x, edit->y, edit->fontSize, edit->border}), (QList<int>{50, 60, 30, 3}));
             QVERIFY(info->isStyleChanged && info->isPositionChanged);
         }
         // Shadow is not carried over to the other captions' own records.

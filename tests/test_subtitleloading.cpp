@@ -92,24 +92,15 @@ private slots:
 
         const CaptionInfo* big = m->getCaptionDataByIndex(2);
         QCOMPARE(big->index, 2);
-        QCOMPARE(big->type, QStringLiteral("Dialogue"));
-        QCOMPARE(big->layer, QStringLiteral("2"));
-        QCOMPARE(big->start, QStringLiteral("0:0:5.3"));
-        QCOMPARE(big->end, QStringLiteral("0:00:06.00"));
-        QCOMPARE(big->style, QStringLiteral("Big"));
-        QCOMPARE(big->actor, QStringLiteral("Ann"));
-        QCOMPARE(big->marginL, QStringLiteral("1"));
-        QCOMPARE(big->marginV, QStringLiteral("3"));
-        QCOMPARE(big->effect, QStringLiteral("fx"));
-        QCOMPARE(big->initialText, big->text);
+        QCOMPARE((QStringList{big->type, big->layer, big->start, big->end, big->style, big->actor, big->marginL,
+                              big->marginV, big->effect, big->initialText}),
+                 (QStringList{"Dialogue", "2", "0:0:5.3", "0:00:06.00", "Big", "Ann", "1", "3", "fx", big->text}));
         QCOMPARE(big->line, QStringLiteral("Dialogue: 2 , 0:0:5.3 ,0:00:06.00, Big ,Ann, 1,2,3, fx,Hello, world, again"));
         // The later of two styles with one name wins; its numbers seed the edit record.
         QCOMPARE(big->captionStyle->fontsize, QStringLiteral("44.5"));
-        QCOMPARE(big->captionEdit->fontSize, 44);
-        QCOMPARE(big->captionEdit->border, 4);
-        QCOMPARE(big->captionEdit->x, 192);
-        QCOMPARE(big->captionEdit->y, 268);
-        QCOMPARE(big->captionEdit->text, big->text);
+        const CaptionEdit* edit = big->captionEdit;
+        QCOMPARE((QList<int>{edit->fontSize, edit->border, edit->x, edit->y}), (QList<int>{44, 4, 192, 268}));
+        QCOMPARE(edit->text, big->text);
         QVERIFY(big->captionStyle != m->getStyles().at(2));
 
         const CaptionInfo* orphan = m->getCaptionDataByIndex(3);
