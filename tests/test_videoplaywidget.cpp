@@ -101,7 +101,6 @@ class TestVideoPlayWidget : public QObject
 private slots:
     void initTestCase();
     void init();
-    void startState();
     void mutedAtStart();
     void openFileShowsVideoAndFigures();
     void labelsFollowFramesAndSliderSeeks();
@@ -109,7 +108,7 @@ private slots:
     void captureButtons();
     void captureSeekRepliesFollowCaptureType();
     void subtitleAddAndRemove();
-    void dropAcceptsOnlyOneFile();
+    void unloadedPanelTakesOneDroppedFile();
     void badFilesReturnToLogo();
     void unusualVideos();
 
@@ -130,29 +129,6 @@ void TestVideoPlayWidget::init()
 {
     GlobalManager::instance()->saveSettings(AppConfig::PLAYER_MUTE, false);
     GlobalManager::instance()->saveSettings(AppConfig::PLAYER_VOLUME, 100);
-}
-
-void TestVideoPlayWidget::startState()
-{
-    Panel panel;
-    QVERIFY(panel.widget->isLogoShown());
-    QVERIFY(!panel.mpv()->isVisible());
-    QVERIFY(!panel.widget->isLoadFile());
-    QCOMPARE(panel.widget->totalTimeText(), QStringLiteral("00:00:00:00"));
-    QCOMPARE(panel.widget->speedComboBox()->currentText(), QStringLiteral("1.00x"));
-
-    // Frame steps before anything is loaded do nothing, but still report the click.
-    QSignalSpy clicked(panel.widget.get(), &BaseWidget::buttonClicked);
-    panel.click(VideoPlayWidget::ButtonPreviousFrame);
-    panel.click(VideoPlayWidget::ButtonNextFrame);
-    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
-    QCOMPARE(clicked.count(), 2);
-    QCOMPARE(clicked.at(1).at(0).toInt(), 1);
-
-    QSignalSpy errors(panel.mpv(), &MpvWidget::error);
-    QVERIFY(panel.mpv()->takeSnapshot(QStringLiteral("/tmp/unused.jpg")).isNull());
-    QCOMPARE(errors.count(), 1);
-    QCOMPARE(errors.at(0).at(0).toString(), QStringLiteral("Cannot take snapshot"));
 }
 
 void TestVideoPlayWidget::mutedAtStart()
@@ -396,7 +372,7 @@ void TestVideoPlayWidget::subtitleAddAndRemove()
     QVERIFY(TestSupport::meanDifference(panel.mpv()->takeSnapshot().toImage(), plain) < 0.01);
 }
 
-void TestVideoPlayWidget::dropAcceptsOnlyOneFile()
+void TestVideoPlayWidget::unloadedPanelTakesOneDroppedFile()
 {
     Panel panel;
     QSignalSpy dragged(panel.widget.get(), &VideoPlayWidget::dragFileSignal);
@@ -424,6 +400,20 @@ void TestVideoPlayWidget::dropAcceptsOnlyOneFile()
     QCOMPARE(dragged.count(), 1);
     QCOMPARE(dragged.at(0).at(0).toString(), m_video);
     QVERIFY(panel.widget->isLogoShown());
+
+    // Nothing loaded: the start state. Frame steps do nothing but still report the click.
+    QVERIFY(!panel.mpv()->isVisible());
+    QCOMPARE(panel.widget->speedComboBox()->currentText(), QStringLiteral("1.00x"));
+    QSignalSpy clicked(panel.widget.get(), &BaseWidget::buttonClicked);
+    panel.click(VideoPlayWidget::ButtonPreviousFrame);
+    panel.click(VideoPlayWidget::ButtonNextFrame);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
+    QCOMPARE(clicked.count(), 2);
+    QCOMPARE(clicked.at(1).at(0).toInt(), 1);
+    QSignalSpy errors(panel.mpv(), &MpvWidget::error);
+    QVERIFY(panel.mpv()->takeSnapshot(QStringLiteral("/tmp/unused.jpg")).isNull());
+    QCOMPARE(errors.count(), 1);
+    QCOMPARE(errors.at(0).at(0).toString(), QStringLiteral("Cannot take snapshot"));
 }
 
 void TestVideoPlayWidget::badFilesReturnToLogo()
