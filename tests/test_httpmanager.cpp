@@ -47,7 +47,6 @@ private slots:
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("expected");
-        QTest::newRow("no model for the language") << QString() << QString() << "fr-FR" << "fr-FR";
         QTest::newRow("missing audio file") << QString() << "/nonexistent/a.mp3" << "en-US" << "could not be read";
         QTest::newRow("empty audio file") << QString() << "empty" << "en-US" << "no sound";
         QTest::newRow("nothing listens") << QStringLiteral("http://127.0.0.1:%1").arg(freePort()) << QString()
