@@ -62,7 +62,6 @@ private slots:
     void singleFramesInFormat();
     void scaleHalvesWidth();
     void unregisteredWatermarkAndGuideOnce();
-    void unusableOutputFolderFallsBack();
     void nothingLostWhenNoFolderTakesFiles();
     void tooTallForWebpIsReported();
     void stitchTooLargeForFormatIsRefused_data();
@@ -294,23 +293,6 @@ void TestExport::unregisteredWatermarkAndGuideOnce()
     QCOMPARE(guide.count(), 1);
 }
 
-void TestExport::unusableOutputFolderFallsBack()
-{
-    const QString blocker = m_work + QStringLiteral("/a-file");
-    QVERIFY(TestSupport::writeFile(blocker, "not a folder"));
-    GlobalManager* manager = GlobalManager::instance();
-    manager->saveSettings(AppConfig::FILE_SAVE_PATH, blocker + QStringLiteral("/sub"));
-    m_strip->addImage(capture(solidFrame(Qt::red), 1 / 25.0, 1));
-
-    QStringList errors;
-    const QStringList files = exportFrames(&errors);
-    QCOMPARE(errors, QStringList());
-    QCOMPARE(files.size(), 1);
-    const QString fallback = manager->getWritePath(AppConfig::APP_NAME);
-    QCOMPARE(QFileInfo(files.first()).absolutePath(), QFileInfo(fallback).absoluteFilePath());
-    QCOMPARE(QImageReader(files.first()).size(), QSize(320, 180));
-}
-
 void TestExport::nothingLostWhenNoFolderTakesFiles()
 {
     GlobalManager* manager = GlobalManager::instance();
@@ -318,6 +300,7 @@ void TestExport::nothingLostWhenNoFolderTakesFiles()
     QVERIFY(TestSupport::writeFile(temp + QStringLiteral("/holiday_1.png"), "one"));
     QVERIFY(TestSupport::writeFile(temp + QStringLiteral("/holiday_2.png"), "two"));
     // Neither the chosen folder nor the default one can take files.
+    QVERIFY(TestSupport::writeFile(m_work + QStringLiteral("/a-file"), "not a folder"));
     manager->saveSettings(AppConfig::FILE_SAVE_PATH, m_work + QStringLiteral("/a-file/sub"));
     const QString fallback = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + "/Glimmer";
     QVERIFY(QDir(fallback).removeRecursively());

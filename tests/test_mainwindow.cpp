@@ -168,7 +168,7 @@ private slots:
         preview->exportButtonClickHandle();
         QVERIFY(exported.wait(30000));
         const QString real = QFileInfo(exported.last().at(0).toStringList().value(0)).absolutePath();
-        QVERIFY(QDir(real) != QDir(locked));
+        QCOMPARE(QDir(real), QDir(GlobalManager::instance()->getWritePath(AppConfig::APP_NAME)));
         QVERIFY2(notice->text().contains(locked) && notice->text().contains(QDir::toNativeSeparators(real)),
                  qPrintable(notice->text()));
         QCOMPARE(preview->saveFileBar()->outputDir(), real);
