@@ -138,18 +138,6 @@ private slots:
         QCOMPARE(m->getStyles().size(), 1);
     }
 
-    void legacyEncodedAss()
-    {
-        const QString path = m_dir + QStringLiteral("/gbk.ass");
-        const QString events = QStringLiteral("Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,%1\n"
-                                              "Dialogue: 0,0:00:03.00,0:00:04.00,Default,,0,0,0,,%2\n")
-                                   .arg(kChinese, kChinese2);
-        QVERIFY(TestSupport::writeFile(path, QTextCodec::codecForName("GBK")->fromUnicode(
-                                                 QString::fromUtf8(assFile(events.toUtf8())))));
-        QCOMPARE(m->loadCaptionFile(path), 0);
-        QCOMPARE(captionTexts(), QStringList({kChinese, kChinese2}));
-    }
-
     void filesWithoutCaptions_data()
     {
         QTest::addColumn<QString>("name");
