@@ -57,7 +57,7 @@ private slots:
     void init();
     void cleanup();
     void cleanupTestCase();
-    void compositePngAndSecondExport();
+    void compositePngIsRevealed();
     void singleFramesInFormat_data();
     void singleFramesInFormat();
     void scaleHalvesWidth();
@@ -168,7 +168,7 @@ QStringList TestExport::exportStitch(QStringList* errors)
     return waitFinished(spy, errors);
 }
 
-void TestExport::compositePngAndSecondExport()
+void TestExport::compositePngIsRevealed()
 {
     m_strip->addImage(capture(solidFrame(Qt::red), 1 / 25.0, 1));
     m_strip->addImage(capture(solidFrame(Qt::blue), 2 / 25.0, 2));
@@ -198,12 +198,6 @@ void TestExport::compositePngAndSecondExport()
     QVERIFY(!QFileInfo::exists(m_out + QStringLiteral("/tmp")));
     QTRY_COMPARE(m_fileManager.calls.size(), 1);
     QCOMPARE(m_fileManager.calls.first(), QStringList{QUrl::fromLocalFile(expected).toString(QUrl::FullyEncoded)});
-
-    const QByteArray before = readFile(expected);
-    const QStringList second = exportStitch();
-    QCOMPARE(second, QStringList{m_out + QStringLiteral("/holiday_stitch_1(1).png")});
-    QCOMPARE(readFile(expected), before);
-    QCOMPARE(QImageReader(second.first()).size(), QSize(320, 260));
 }
 
 void TestExport::singleFramesInFormat_data()
