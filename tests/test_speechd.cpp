@@ -128,24 +128,6 @@ private:
         return answerOf(data.mid(9, 3).toInt(), data.left(headEnd), data.mid(headEnd + 4));
     }
 
-    static void checkCaptionShape(const QJsonArray& utterances)
-    {
-        qint64 previousEnd = -1;
-        for (const QJsonValue& value : utterances) {
-            const QJsonObject utterance = value.toObject();
-            const qint64 start = utterance.value(QStringLiteral("start_time")).toVariant().toLongLong();
-            const qint64 end = utterance.value(QStringLiteral("end_time")).toVariant().toLongLong();
-            const QString text = utterance.value(QStringLiteral("text")).toString();
-            QVERIFY2(start < end, qPrintable(text));
-            QVERIFY2(start >= previousEnd, qPrintable(text));
-            QVERIFY2(end - start <= 5000 || !text.contains(QLatin1Char(' ')), qPrintable(text));
-            QVERIFY2(!text.isEmpty() && !text.contains(QLatin1Char('<')) && !text.contains(QLatin1Char('['))
-                         && !text.contains(QLatin1Char('(')) && !text.contains(QLatin1Char('+')),
-                     qPrintable(text));
-            previousEnd = end;
-        }
-    }
-
 private slots:
     void initTestCase()
     {
@@ -300,7 +282,6 @@ private slots:
         QCOMPARE(half.json.value("state").toString(), QStringLiteral("success"));
         const QJsonArray utterances = half.json.value("utterances").toArray();
         QVERIFY(!utterances.isEmpty());
-        checkCaptionShape(utterances);
         // Only the first half was sent.
         QVERIFY(utterances.last().toObject().value("end_time").toInt() < 13000);
     }
