@@ -2,7 +2,6 @@
 #define LOCALHTTPSERVER_H
 
 #include <QByteArray>
-#include <QHash>
 #include <QMap>
 #include <QPointer>
 #include <QString>
@@ -55,7 +54,6 @@ public:
     {
         return QStringLiteral("http://127.0.0.1:%1%2").arg(port()).arg(path);
     }
-    int requestCount(const QString& path) const { return m_counts.value(path); }
     QList<Request> requests() const { return m_requests; }
 
 private:
@@ -84,7 +82,6 @@ private:
                             buffer->mid(headerEnd + 4, length), buffer->left(headerEnd)};
             buffer->clear();
             QObject::disconnect(socket, &QTcpSocket::readyRead, nullptr, nullptr);
-            m_counts[request.path] += 1;
             m_requests.append(request);
             respond(socket, m_handler(request));
         });
@@ -123,7 +120,6 @@ private:
 
     Handler m_handler;
     QTcpServer m_server;
-    QHash<QString, int> m_counts;
     QList<Request> m_requests;
 };
 

@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QRegularExpression>
-#include <QSettings>
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -69,8 +68,6 @@ private slots:
 
         // The pointer form saves the key; the key form does not.
         m->setCurrentLangItem(m->getLangItemByKey(8));
-        QSettings settings(QSettings::UserScope, AppConfig::APP_NAME, QString());
-        settings.sync();
         QCOMPARE(GlobalManager::instance()->readSettings(AppConfig::AI_CAPTION_LANG).toInt(), 8);
         QVERIFY(m->getTempAssFilePath().endsWith(QStringLiteral("/holiday.clip-ja-JP.ass")));
 
@@ -137,13 +134,9 @@ private slots:
             "Style: Title , Noto Sans,32.5,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,-1,0,0,0,100,100,0,0,1,"
             "2.5,0,8,10,10,10,1");
         QScopedPointer<CaptionStyle> style(CaptionManager::parseStyleLine(line));
-        QCOMPARE(style->name, QStringLiteral("Title"));
-        QCOMPARE(style->fontname, QStringLiteral("Noto Sans"));
-        QCOMPARE(style->fontsize, QStringLiteral("32.5"));
-        QCOMPARE(style->bold, QStringLiteral("-1"));
-        QCOMPARE(style->outline, QStringLiteral("2.5"));
-        QCOMPARE(style->alignment, QStringLiteral("8"));
-        QCOMPARE(style->encoding, QStringLiteral("1"));
+        QCOMPARE((QStringList{style->name, style->fontname, style->fontsize, style->bold, style->outline,
+                              style->alignment, style->encoding}),
+                 (QStringList{"Title", "Noto Sans", "32.5", "-1", "2.5", "8", "1"}));
         QCOMPARE(style->fields.size(), 23);
         QCOMPARE(style->fields.first(), QStringLiteral("Title "));
         QCOMPARE(CaptionManager::formatStyleLine(*style), QString(line).replace(QStringLiteral("Title , Noto"),
@@ -187,20 +180,13 @@ private slots:
             QCOMPARE(captions.at(i)->index, i + 1);
             QCOMPARE(captions.at(i)->style, QStringLiteral("Default"));
             QCOMPARE(captions.at(i)->captionEdit->fontSize, 18);
-            QCOMPARE(captions.at(i)->captionEdit->border, 1);
-            QCOMPARE(captions.at(i)->captionEdit->x, 192);
-            QCOMPARE(captions.at(i)->captionEdit->y, 268);
             QCOMPARE(captions.at(i)->captionEdit->text, captions.at(i)->text);
             QVERIFY(captions.at(i)->isCheck && captions.at(i)->isShow);
         }
         // Back-to-back captions are kept apart; the last one and a real gap are not touched.
-        QCOMPARE(captions.at(0)->end, QStringLiteral("0:0:4.99"));
-        QCOMPARE(captions.at(1)->end, QStringLiteral("0:0:6.3"));
-        QCOMPARE(captions.at(2)->end, QStringLiteral("0:0:7.99"));
-        QCOMPARE(captions.at(3)->end, QStringLiteral("0:0:9.0"));
-        QCOMPARE(captions.at(1)->text, QStringLiteral("costs %4 now"));
-        QCOMPARE(captions.at(1)->startMs(), 5000);
-        QCOMPARE(captions.at(1)->endMs(), 6030);
+        QCOMPARE((QList<int>{captions.at(0)->endMs(), captions.at(1)->startMs(), captions.at(1)->endMs(),
+                             captions.at(2)->endMs(), captions.at(3)->endMs()}),
+                 (QList<int>{4990, 5000, 6030, 7990, 9000}));
 
         QCOMPARE(readText(m->getTempAssFilePath()),
                  kHeader + kDefaultStyle + kEventsHeader
@@ -252,13 +238,9 @@ private slots:
 
         // A second edit replaces the first entry instead of piling up.
         first->captionEdit->fontSize = 18;
-        first->captionEdit->border = 1;
-        first->captionEdit->shadow = 1;
-        first->captionEdit->x = 192;
-        first->captionEdit->y = 268;
         m->changeCaptionNew(first, false);
         QCOMPARE(first->editMarks.size(), 1);
-        QCOMPARE(first->editMarks.first().first, QStringLiteral("{\\fs18\\bord1\\shad1\\pos(192,268)}"));
+        QCOMPARE(first->editMarks.first().first, QStringLiteral("{\\fs18\\bord2\\shad0\\pos(100,150)}"));
     }
 
     void editAllCaptions()
@@ -288,12 +270,9 @@ private slots:
                                       "Dialogue: 0,0:0:5.0,0:0:6.0,StyleAll,,0,0,0,,%1three\n")
                            .arg(block));
         for (CaptionInfo* info : m->getCaptions()) {
-            QCOMPARE(info->style, QStringLiteral("StyleAll"));
-            QCOMPARE(info->captionStyle->name, QStringLiteral("StyleAll"));
-            QCOMPARE(info->captionEdit->x, 50);
-            QCOMPARE(info->captionEdit->y, 60);
-            QCOMPARE(info->captionEdit->fontSize, 30);
-            QCOMPARE(info->captionEdit->border, 3);
+            QCOMPARE(info->style + info->captionStyle->name, QStringLiteral("StyleAllStyleAll"));
+            const CaptionEdit* edit = info->captionEdit;
+            QCOMPARE((QList<int>{edit->x, edit->y, edit->fontSize, edit->border}), (QList<int>{50, 60, 30, 3}));
             QVERIFY(info->isStyleChanged && info->isPositionChanged);
         }
         // Shadow is not carried over to the other captions' own records.
@@ -304,13 +283,9 @@ private slots:
     void editLoadedFileLine()
     {
         const QString source = TestSupport::makeWorkDir(QStringLiteral("linelevel")) + QStringLiteral("/in.ass");
-        const QByteArray original
-            = "[Script Info]\r\nScriptType: v4.00+\r\n\r\n[V4+ Styles]\r\n"
-              "Style: Default,Arial,20,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,-1,0,0,0,100,100,0,0,1,2,3,2,"
-              "20,20,20,1\r\n\r\n[Events]\r\n"
-              "Format: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\r\n"
-              "Dialogue: 0,0:00:00.00,0:00:01.00,Default,,0,0,0,,0\r\n"
-              "Dialogue: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,,keep me\r\n";
+        const QByteArray original = TestSupport::assFile("Dialogue: 0,0:00:00.00,0:00:01.00,Default,,0,0,0,,0\n"
+                                                         "Dialogue: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,,keep me\n")
+                                        .replace("\n", "\r\n");
         QVERIFY(TestSupport::writeFile(source, original));
         QCOMPARE(m->loadCaptionFile(source), 0);
         CaptionInfo* first = m->getCaptionDataByIndex(1);
@@ -446,8 +421,7 @@ private slots:
     }
 
     // Saved captions come back the same: SRT through ffmpeg's reader, ASS
-    // through ours and ffmpeg's (libass's own parser is what ffmpeg uses to
-    // read ASS here), with the styles and override blocks kept.
+    // through ours (test_asswriter reads a saved ASS back with libass).
     void savedCaptionsReloadTheSame()
     {
         m->createCaptions(utterances({{1230, 2340, QStringLiteral("First, with a comma")},
@@ -462,11 +436,14 @@ private slots:
             expected.append(std::make_tuple(info->text, info->startMs(), info->endMs()));
         }
         const QString dir = TestSupport::makeWorkDir(QStringLiteral("saved"));
+        // Texts without override blocks, line breaks as written.
         auto reloaded = [this]() {
             QList<std::tuple<QString, int, int>> got;
             for (const CaptionInfo* info : m->getCaptions()) {
-                got.append(std::make_tuple(QString(info->text).replace(QStringLiteral("\\N"), QStringLiteral("\n")),
-                                           info->startMs(), info->endMs()));
+                QString text = info->text;
+                text.remove(QRegularExpression(QStringLiteral("\\{[^}]*\\}")));
+                got.append(std::make_tuple(text.replace(QStringLiteral("\\N"), QStringLiteral("\n")), info->startMs(),
+                                           info->endMs()));
             }
             return got;
         };
@@ -480,25 +457,12 @@ private slots:
         QCOMPARE(m->loadCaptionFile(dir + QStringLiteral("/fromsrt.ass")), 0);
         QCOMPARE(reloaded(), expected);
 
-        QCOMPARE(m->loadCaptionFile(dir + QStringLiteral("/fromsrt.ass")), 0);
         CaptionInfo* edited = m->getCaptions().first();
         edited->captionEdit->fontSize = 30;
         m->changeCaptionNew(edited, false);
         QVERIFY(m->saveCaptionFile(dir + QStringLiteral("/out.ass")));
-        const QString ass = readText(dir + QStringLiteral("/out.ass"));
-        QVERIFY(ass.contains(QStringLiteral("{\\fs30\\bord")));
-        QVERIFY(ass.contains(QStringLiteral("Style: Default,")));
         QCOMPARE(m->loadCaptionFile(dir + QStringLiteral("/out.ass")), 0);
-        QList<std::tuple<QString, int, int>> got;
-        for (const CaptionInfo* info : m->getCaptions()) {
-            QString text = info->text;
-            text.remove(QRegularExpression(QStringLiteral("\\{[^}]*\\}")));
-            got.append(std::make_tuple(text.replace(QStringLiteral("\\N"), QStringLiteral("\n")), info->startMs(),
-                                       info->endMs()));
-        }
-        QCOMPARE(got, expected);
-        QCOMPARE(TestSupport::ffmpeg({"-i", dir + "/out.ass", dir + "/fromass.srt"}), 0);
-        QCOMPARE(readText(dir + QStringLiteral("/fromass.srt")).count(QStringLiteral(" --> ")), 3);
+        QCOMPARE(reloaded(), expected);
 
         // Failures say why and write nothing.
         QVERIFY(!m->saveCaptionFile(dir + QStringLiteral("/out.txt")));

@@ -103,11 +103,9 @@ void TestCheckUpdateDialog::newerVersionOffered()
     dialog.checkForUpdate(DownloadManager::TAG_MENU, 0);
     QTRY_COMPARE_WITH_TIMEOUT(dialog.currentLayer(), CheckUpdateDialog::UpdateLayer, 10000);
     QVERIFY(!dialog.isLatest());
-    QCOMPARE(dialog.versionText(), QStringLiteral("Version: 1.10.0"));
-    QCOMPARE(dialog.sizeText(), QStringLiteral("Size: 61MB"));
-    QCOMPARE(dialog.dateText(), QStringLiteral("Release date: 2024.05.06"));
-    QCOMPARE(dialog.changeText(),
-             QStringLiteral("<p style='line-height:20px'>Faster export<br>Fixed captions<br></p>"));
+    QCOMPARE((QStringList{dialog.versionText(), dialog.sizeText(), dialog.dateText(), dialog.changeText()}),
+             (QStringList{"Version: 1.10.0", "Size: 61MB", "Release date: 2024.05.06",
+                          "<p style='line-height:20px'>Faster export<br>Fixed captions<br></p>"}));
 
     QSignalSpy finished(&dialog, &QDialog::finished);
     dialog.updateNowButton()->click();

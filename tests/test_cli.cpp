@@ -12,7 +12,6 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QSettings>
-#include <QTime>
 #include <QtTest>
 
 namespace {
@@ -21,28 +20,12 @@ struct CliRun {
     QString err;
 };
 
-QString srtTime(int ms)
-{
-    return QTime::fromMSecsSinceStartOfDay(ms).toString(QStringLiteral("hh:mm:ss,zzz"));
-}
-
-QByteArray srt(const QList<QPair<int, QString>>& captions)
-{
-    QString text;
-    for (int i = 0; i < captions.size(); ++i) {
-        text += QStringLiteral("%1\n%2 --> %3\n%4\n\n")
-                    .arg(i + 1)
-                    .arg(srtTime(captions.at(i).first), srtTime(captions.at(i).first + 700), captions.at(i).second);
-    }
-    return text.toUtf8();
-}
-
 // One-line captions of equal height, one at a time; 1234 ms is sought at
 // 1.2339999675750732 s, and the last starts after the end of the 10 s video.
-const QList<QPair<int, QString>> kCaptions{{500, QStringLiteral("Alpha bravo charlie")},
-                                           {1234, QStringLiteral("Delta echo foxtrot")},
-                                           {6040, QStringLiteral("Golf hotel india")},
-                                           {12000, QStringLiteral("After the end")}};
+const QList<std::tuple<int, int, QString>> kCaptions{{500, 1200, QStringLiteral("Alpha bravo charlie")},
+                                                     {1234, 1934, QStringLiteral("Delta echo foxtrot")},
+                                                     {6040, 6740, QStringLiteral("Golf hotel india")},
+                                                     {12000, 12700, QStringLiteral("After the end")}};
 } // namespace
 
 class TestCli : public QObject
@@ -77,7 +60,7 @@ void TestCli::initTestCase()
     m_video = m_dir + QStringLiteral("/film.mp4");
     m_srt = m_dir + QStringLiteral("/film.srt");
     QVERIFY(TestSupport::makeVideo(m_video, 10.0, 640, 360, 25, true));
-    QVERIFY(TestSupport::writeFile(m_srt, srt(kCaptions)));
+    QVERIFY(TestSupport::writeFile(m_srt, TestSupport::srt(kCaptions)));
     setRegistered(true);
     m_frames = m_dir + QStringLiteral("/frames");
     const CliRun run = cli({m_video, "--subtitles", m_srt, "--frames-dir", m_frames});
@@ -113,7 +96,7 @@ void TestCli::initTestCase()
     QTRY_COMPARE_WITH_TIMEOUT(subtitleReplies, 1, 10000);
     for (int i = 0; i < 3; ++i) {
         const int seen = restarts.count(MpvWidget::RestartAfterCaptureSeek);
-        player.seekToPositionForCapture(FrameGrabber::captureSeconds(kCaptions.at(i).first));
+        player.seekToPositionForCapture(FrameGrabber::captureSeconds(std::get<0>(kCaptions.at(i))));
         QTRY_VERIFY_WITH_TIMEOUT(restarts.count(MpvWidget::RestartAfterCaptureSeek) > seen, 10000);
         m_window << player.takeSnapshot().toImage();
         QVERIFY(player.setOption(QStringLiteral("sub-visibility"), QStringLiteral("no")));

@@ -47,11 +47,9 @@ private slots:
         GlobalManager::instance()->saveSettings(AppConfig::FIRST_OPEN_APP, true);
         m_video = dir + QStringLiteral("/walk.mp4");
         QVERIFY(TestSupport::makeVideo(m_video, 30.0, 320, 180, 25, false));
-        m_window = new MainWindow();
-        m_window->show();
+        m_window = TestSupport::showMainWindow();
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_window));
-        mpv()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
         QVERIFY(m_window->videoPlayWidget()->openFile(m_video));
         QTRY_VERIFY_WITH_TIMEOUT(mpv()->getPlayStatus() == MpvWidget::Play && mpv()->getCurrentSecond() > 0.2,
                                  20000);

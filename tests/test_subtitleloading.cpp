@@ -18,32 +18,12 @@
 #include <sys/stat.h>
 
 namespace {
-const QByteArray kStyleSection
-    = "[V4+ Styles]\n"
-      "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, Bold, Italic, "
-      "Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, Alignment, MarginL, "
-      "MarginR, MarginV, Encoding\n"
-      "Style: Default,Arial,20,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,2,1,2,20,20,20,1\n";
-const QByteArray kEventFormat
-    = "[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n";
-
-QByteArray assFile(const QByteArray& events)
-{
-    return "[Script Info]\nScriptType: v4.00+\n\n" + kStyleSection + "\n" + kEventFormat + events;
-}
+using TestSupport::assFile;
+using TestSupport::captionTexts;
 
 QString readText(const QString& path)
 {
     return QString::fromUtf8(TestSupport::readFile(path));
-}
-
-QStringList captionTexts()
-{
-    QStringList texts;
-    for (const CaptionInfo* info : CaptionManager::instance()->getCaptions()) {
-        texts << info->text;
-    }
-    return texts;
 }
 
 const QString kFrench = QStringLiteral("Café crème, naïve façade à côté de l'hôtel.");
@@ -80,29 +60,25 @@ private slots:
         m_dir = TestSupport::makeWorkDir(QStringLiteral("subtitleloading"));
     }
 
-    void noPathAtAll()
-    {
-        QCOMPARE(m->loadCaptionFile(QString()), -1);
-        QVERIFY(!m->lastError().isEmpty());
-    }
-
     void fieldsStylesAndIndices()
     {
+        // No path and nothing loaded before: nothing to fall back on.
+        QCOMPARE(m->loadCaptionFile(QString()), -1);
+        QVERIFY(!m->lastError().isEmpty());
+
         const QString path = m_dir + QStringLiteral("/fields.ass");
         QVERIFY(TestSupport::writeFile(
-            path, "[Script Info]\nDialogue: 0,0:00:00.00,0:00:01.00,Default,,0,0,0,,before events\n\n"
-                      + kStyleSection
-                      + "Style: Big,Arial,40,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,3,1,"
-                        "2,20,20,20,1\n"
-                        "Style: Big,Arial,44.5,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,"
-                        "4,1,2,20,20,20,1\n"
-                        "Style:Tight,Arial,10\n\n"
-                      + kEventFormat
-                      + "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,nine commas\n"
-                        "Dialogue: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,eight commas\n"
-                        "Comment: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,,a comment\n"
-                        "  Dialogue: 2 , 0:0:5.3 ,0:00:06.00, Big ,Ann, 1,2,3, fx,Hello, world, again  \n"
-                        "Dialogue: 0,0:00:07.00,0:00:08.00,Nowhere,,0,0,0,,{\\i1}unknown style\n"));
+            path, assFile("Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,nine commas\n"
+                          "Dialogue: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,eight commas\n"
+                          "Comment: 0,0:00:02.00,0:00:03.00,Default,,0,0,0,,a comment\n"
+                          "  Dialogue: 2 , 0:0:5.3 ,0:00:06.00, Big ,Ann, 1,2,3, fx,Hello, world, again  \n"
+                          "Dialogue: 0,0:00:07.00,0:00:08.00,Nowhere,,0,0,0,,{\\i1}unknown style\n",
+                          "Style: Big,Arial,40,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,3,1,"
+                          "2,20,20,20,1\n"
+                          "Style: Big,Arial,44.5,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,"
+                          "4,1,2,20,20,20,1\n"
+                          "Style:Tight,Arial,10\n")
+                      .replace("ScriptType: v4.00+", "Dialogue: 0,0:00:00.00,0:00:01.00,Default,,0,0,0,,before events")));
         QCOMPARE(m->loadCaptionFile(path), 0);
         QVERIFY(m->lastError().isEmpty());
         QCOMPARE(m->getAssFilePath(), path);
@@ -114,24 +90,15 @@ private slots:
 
         const CaptionInfo* big = m->getCaptionDataByIndex(2);
         QCOMPARE(big->index, 2);
-        QCOMPARE(big->type, QStringLiteral("Dialogue"));
-        QCOMPARE(big->layer, QStringLiteral("2"));
-        QCOMPARE(big->start, QStringLiteral("0:0:5.3"));
-        QCOMPARE(big->end, QStringLiteral("0:00:06.00"));
-        QCOMPARE(big->style, QStringLiteral("Big"));
-        QCOMPARE(big->actor, QStringLiteral("Ann"));
-        QCOMPARE(big->marginL, QStringLiteral("1"));
-        QCOMPARE(big->marginV, QStringLiteral("3"));
-        QCOMPARE(big->effect, QStringLiteral("fx"));
-        QCOMPARE(big->initialText, big->text);
+        QCOMPARE((QStringList{big->type, big->layer, big->start, big->end, big->style, big->actor, big->marginL,
+                              big->marginV, big->effect, big->initialText}),
+                 (QStringList{"Dialogue", "2", "0:0:5.3", "0:00:06.00", "Big", "Ann", "1", "3", "fx", big->text}));
         QCOMPARE(big->line, QStringLiteral("Dialogue: 2 , 0:0:5.3 ,0:00:06.00, Big ,Ann, 1,2,3, fx,Hello, world, again"));
         // The later of two styles with one name wins; its numbers seed the edit record.
         QCOMPARE(big->captionStyle->fontsize, QStringLiteral("44.5"));
-        QCOMPARE(big->captionEdit->fontSize, 44);
-        QCOMPARE(big->captionEdit->border, 4);
-        QCOMPARE(big->captionEdit->x, 192);
-        QCOMPARE(big->captionEdit->y, 268);
-        QCOMPARE(big->captionEdit->text, big->text);
+        const CaptionEdit* edit = big->captionEdit;
+        QCOMPARE((QList<int>{edit->fontSize, edit->border, edit->x, edit->y}), (QList<int>{44, 4, 192, 268}));
+        QCOMPARE(edit->text, big->text);
         QVERIFY(big->captionStyle != m->getStyles().at(2));
 
         const CaptionInfo* orphan = m->getCaptionDataByIndex(3);
@@ -171,25 +138,13 @@ private slots:
         QCOMPARE(m->getStyles().size(), 1);
     }
 
-    void legacyEncodedAss()
-    {
-        const QString path = m_dir + QStringLiteral("/gbk.ass");
-        const QString events = QStringLiteral("Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,%1\n"
-                                              "Dialogue: 0,0:00:03.00,0:00:04.00,Default,,0,0,0,,%2\n")
-                                   .arg(kChinese, kChinese2);
-        QVERIFY(TestSupport::writeFile(path, QTextCodec::codecForName("GBK")->fromUnicode(
-                                                 QString::fromUtf8(assFile(events.toUtf8())))));
-        QCOMPARE(m->loadCaptionFile(path), 0);
-        QCOMPARE(captionTexts(), QStringList({kChinese, kChinese2}));
-    }
-
     void filesWithoutCaptions_data()
     {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("bytes");
         QTest::newRow("no [Events]") << "noevents.ass"
-                                     << "[Script Info]\n\n" + kStyleSection
-                                            + "Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,orphan\n";
+                                     << assFile("Dialogue: 0,0:00:01.00,0:00:02.00,Default,,0,0,0,,orphan\n")
+                                            .replace("[Events]", "[Fonts]");
         QTest::newRow("empty") << "empty.ass" << QByteArray();
         QByteArray junk(2 * 1024 * 1024, '\0');
         QRandomGenerator generator(1234);
@@ -255,7 +210,8 @@ private slots:
 
     void srtConversion()
     {
-        const QString srt = m_dir + QStringLiteral("/Movie Night.srt");
+        // An upper-case suffix is an SRT all the same.
+        const QString srt = m_dir + QStringLiteral("/Movie Night.SRT");
         QVERIFY(TestSupport::writeFile(
             srt, QStringLiteral("\uFEFF1\r\n00:00:01,000 --> 00:00:02,500\r\n{\\an8}Up top, with a comma\r\n\r\n"
                                 "2\r\n00:00:03,000 --> 00:00:04,000\r\n%1\r\n\r\n"
@@ -290,16 +246,6 @@ private slots:
         QCOMPARE(first->captionEdit->fontSize, 20);
         QCOMPARE(first->captionEdit->border, 2);
         QVERIFY(m->lastError().isEmpty());
-    }
-
-    void upperCaseSuffix()
-    {
-        const QString srt = m_dir + QStringLiteral("/SHOUT.SRT");
-        QVERIFY(TestSupport::writeFile(srt, srtText({QStringLiteral("LOUD, CLEAR")}).toUtf8()));
-        const QString ass = GlobalManager::instance()->srtToAss(srt);
-        QVERIFY(ass.endsWith(QStringLiteral("/Glimmer/SHOUT.ass")));
-        QCOMPARE(m->loadCaptionFile(ass), 0);
-        QCOMPARE(captionTexts(), QStringList({QStringLiteral("LOUD, CLEAR")}));
     }
 
     void legacyEncodedSrt_data()
@@ -360,7 +306,6 @@ private slots:
         const QString ass = GlobalManager::instance()->srtToAss(srt);
         const int result = m->loadCaptionFile(ass);
         QVERIFY(result == 0 || result == 1);
-        QVERIFY(!m->lastError().isEmpty());
         QVERIFY(m->lastError().contains(QStringLiteral("notasubtitle.srt")));
 
         QVERIFY(GlobalManager::instance()->srtToAss(m_dir + QStringLiteral("/absent.srt")).isEmpty());
@@ -450,7 +395,6 @@ private slots:
         const CaptionFileContent stopped = CaptionFileReader::read(path, control);
         QVERIFY(stopped.cancelled && !stopped.readable && stopped.captions.isEmpty());
         QCOMPARE(CaptionInfo::liveCount(), live);
-        QCOMPARE(AssReader::kMaxEvents, 250000);
     }
 
     void wideUnicodeAndNulInSrt_data()

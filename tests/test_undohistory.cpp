@@ -12,7 +12,6 @@
 #include "loadingdialog.h"
 #include "mainwindow.h"
 #include "messagedialog.h"
-#include "mpvwidget.h"
 #include "testsupport.h"
 #include "undohistory.h"
 #include "videoplaywidget.h"
@@ -32,15 +31,6 @@ QPushButton* buttonWithToolTip(QWidget* parent, const QString& tip)
         }
     }
     return nullptr;
-}
-
-QStringList captionTexts()
-{
-    QStringList texts;
-    for (const CaptionInfo* info : CaptionManager::instance()->getCaptions()) {
-        texts << info->text;
-    }
-    return texts;
 }
 
 QList<qint64> frameKeys(ImagesWidget* strip)
@@ -80,22 +70,17 @@ private slots:
         m_video = m_dir + QStringLiteral("/walk.mp4");
         QVERIFY(TestSupport::makeVideo(m_video, 4.0, 640, 360, 25, false));
         const QString srt = m_dir + QStringLiteral("/walk.srt");
-        QVERIFY(TestSupport::writeFile(srt, "1\n00:00:00,500 --> 00:00:01,000\nFirst caption\n\n"
-                                            "2\n00:00:01,500 --> 00:00:02,000\nSecond caption\n\n"
-                                            "3\n00:00:02,500 --> 00:00:03,000\nThird caption\n\n"
-                                            "4\n00:00:09,000 --> 00:00:10,000\nAfter the end\n\n"));
-        m_window = new MainWindow();
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_window));
-        m_window->videoPlayWidget()->getMpvWidget()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
+        QVERIFY(TestSupport::writeFile(srt, TestSupport::srt({{500, 1000, m_texts.at(0)},
+                                                             {1500, 2000, m_texts.at(1)},
+                                                             {2500, 3000, m_texts.at(2)},
+                                                             {9000, 10000, m_texts.at(3)}})));
+        m_window = TestSupport::showMainWindow();
         m_history = m_window->findChild<UndoHistory*>();
         QVERIFY(m_history);
-
-        QVERIFY(m_window->videoPlayWidget()->openFile(m_video));
-        QTRY_VERIFY_WITH_TIMEOUT(GlobalManager::instance()->getCurrentFile().fileName() == "walk.mp4", 20000);
+        QVERIFY(TestSupport::openVideo(m_window, m_video));
         QSignalSpy replies(m_window->videoPlayWidget(), &VideoPlayWidget::captureEventSignal);
         m_window->loadCaption(srt);
-        QTRY_COMPARE_WITH_TIMEOUT(captionTexts(), m_texts, 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(TestSupport::captionTexts(), m_texts, 20000);
         QTRY_VERIFY_WITH_TIMEOUT(!replies.isEmpty() && replies.last().at(0).toInt() == 14, 10000);
         // The new video's history starts with nothing but the load.
         QTRY_COMPARE(m_history->stack()->count(), 1);
@@ -168,31 +153,31 @@ private slots:
 
         QSignalSpy events(GlobalManager::instance(), &GlobalManager::globalEvent);
         press(Qt::Key_Z);
-        QCOMPARE(captionTexts(), m_texts);
+        QCOMPARE(TestSupport::captionTexts(), m_texts);
         QCOMPARE(m_window->captionWidget()->items().at(1)->getCaptionInfo()->text, m_texts.at(1));
         QVERIFY(!TestSupport::readFile(CaptionManager::instance()->getTempAssFilePath()).contains("Edited text"));
         QCOMPARE(TestSupport::eventValues(events, AppConfig::UPDATE_CAPTION).value(0).toString(),
                  CaptionManager::instance()->getTempAssFilePath());
         press(Qt::Key_Y);
-        QCOMPARE(captionTexts().at(1), QStringLiteral("Edited text"));
+        QCOMPARE(TestSupport::captionTexts().at(1), QStringLiteral("Edited text"));
     }
 
     void clearingCaptionsAsksWithTheCountAndUndoes()
     {
         QPushButton* clear = buttonWithToolTip(m_window->captionWidget(), QStringLiteral("Clear"));
         QVERIFY(clear);
-        const QStringList texts = captionTexts();
+        const QStringList texts = TestSupport::captionTexts();
         QString question;
         TestSupport::answerConfirmation(QStringLiteral("Cancel"), &question);
         clear->click();
         QCOMPARE(question, QStringLiteral("Remove all 4 captions?"));
-        QCOMPARE(captionTexts(), texts);
+        QCOMPARE(TestSupport::captionTexts(), texts);
 
         TestSupport::answerConfirmation(QStringLiteral("Remove"), &question);
         clear->click();
         QVERIFY(CaptionManager::instance()->getCaptions().isEmpty());
         press(Qt::Key_Z);
-        QCOMPARE(captionTexts(), texts);
+        QCOMPARE(TestSupport::captionTexts(), texts);
         QCOMPARE(m_window->captionWidget()->items().size(), 4);
         press(Qt::Key_Y);
         QVERIFY(CaptionManager::instance()->getCaptions().isEmpty());
@@ -210,7 +195,7 @@ private slots:
         QCOMPARE(CaptionManager::instance()->getCaptions().size(), 1332);
         QCOMPARE(m_history->undoAction()->text(), QStringLiteral("Undo Automatic captions"));
         press(Qt::Key_Z); // the automatic captions
-        QCOMPARE(captionTexts(), texts);
+        QCOMPARE(TestSupport::captionTexts(), texts);
     }
 
     void deletedAndClearedFramesComeBack()
@@ -224,14 +209,10 @@ private slots:
         QCOMPARE(frameKeys(strip), keys);
         QVERIFY(!strip->items().at(1)->isSelect());
 
-        QPushButton* clear = buttonWithToolTip(strip, QStringLiteral("Clear"));
         QString question;
-        TestSupport::answerConfirmation(QStringLiteral("Cancel"), &question);
-        clear->click();
-        QCOMPARE(question, QStringLiteral("Remove all 3 frames?"));
-        QCOMPARE(strip->items().size(), 3);
         TestSupport::answerConfirmation(QStringLiteral("Remove"), &question);
-        clear->click();
+        buttonWithToolTip(strip, QStringLiteral("Clear"))->click();
+        QCOMPARE(question, QStringLiteral("Remove all 3 frames?"));
         QVERIFY(strip->items().isEmpty());
         press(Qt::Key_Z);
         QCOMPARE(frameKeys(strip), keys);

@@ -31,6 +31,7 @@ public:
         mpv()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
         widget->resize(900, 640);
         widget->show();
+        shown = QTest::qWaitForWindowExposed(widget.get());
         QObject::connect(mpv(), &MpvWidget::playbackRestarted, widget.get(), [this](MpvWidget::RestartKind kind) {
             restarts.append(kind);
             order.append(QStringLiteral("restart%1").arg(int(kind)));
@@ -56,15 +57,16 @@ public:
     }
 
     MpvWidget* mpv() const { return widget->getMpvWidget(); }
-    bool exposed() { return QTest::qWaitForWindowExposed(widget.get()); }
-
-    bool open(const QString& path)
+    bool open(const QString& path, bool paused = false)
     {
         restarts.clear();
-        if (!widget->openFile(path)) {
+        if (!shown || !widget->openFile(path) || !waitFor(MpvWidget::RestartAfterLoad, 20000)) {
             return false;
         }
-        return waitFor(MpvWidget::RestartAfterLoad, 20000);
+        if (paused) {
+            widget->pause();
+        }
+        return true;
     }
 
     bool waitFor(MpvWidget::RestartKind kind, int timeoutMs = 10000)
@@ -83,6 +85,7 @@ public:
 
     std::unique_ptr<VideoPlayWidget> widget;
     CaptureController* capture;
+    bool shown = false;
     QList<MpvWidget::RestartKind> restarts;
     QList<QPair<quint64, int>> replies;
     QStringList order;
@@ -98,16 +101,14 @@ class TestVideoPlayWidget : public QObject
 private slots:
     void initTestCase();
     void init();
-    void startState();
     void mutedAtStart();
     void openFileShowsVideoAndFigures();
     void labelsFollowFramesAndSliderSeeks();
     void transportButtons();
-    void spaceShortcutTogglesPlayback();
     void captureButtons();
     void captureSeekRepliesFollowCaptureType();
     void subtitleAddAndRemove();
-    void dropAcceptsOnlyOneFile();
+    void unloadedPanelTakesOneDroppedFile();
     void badFilesReturnToLogo();
     void unusualVideos();
 
@@ -130,36 +131,11 @@ void TestVideoPlayWidget::init()
     GlobalManager::instance()->saveSettings(AppConfig::PLAYER_VOLUME, 100);
 }
 
-void TestVideoPlayWidget::startState()
-{
-    Panel panel;
-    QVERIFY(panel.exposed());
-    QVERIFY(panel.widget->isLogoShown());
-    QVERIFY(!panel.mpv()->isVisible());
-    QVERIFY(!panel.widget->isLoadFile());
-    QCOMPARE(panel.widget->totalTimeText(), QStringLiteral("00:00:00:00"));
-    QCOMPARE(panel.widget->speedComboBox()->currentText(), QStringLiteral("1.00x"));
-
-    // Frame steps before anything is loaded do nothing, but still report the click.
-    QSignalSpy clicked(panel.widget.get(), &BaseWidget::buttonClicked);
-    panel.click(VideoPlayWidget::ButtonPreviousFrame);
-    panel.click(VideoPlayWidget::ButtonNextFrame);
-    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
-    QCOMPARE(clicked.count(), 2);
-    QCOMPARE(clicked.at(1).at(0).toInt(), 1);
-
-    QSignalSpy errors(panel.mpv(), &MpvWidget::error);
-    QVERIFY(panel.mpv()->takeSnapshot(QStringLiteral("/tmp/unused.jpg")).isNull());
-    QCOMPARE(errors.count(), 1);
-    QCOMPARE(errors.at(0).at(0).toString(), QStringLiteral("Cannot take snapshot"));
-}
-
 void TestVideoPlayWidget::mutedAtStart()
 {
     GlobalManager::instance()->saveSettings(AppConfig::PLAYER_MUTE, true);
     GlobalManager::instance()->saveSettings(AppConfig::PLAYER_VOLUME, 40);
     Panel panel;
-    QVERIFY(panel.exposed());
     QVERIFY(!panel.widget->soundSlider()->isEnabled());
     QCOMPARE(panel.widget->soundSlider()->value(), 40);
     QVERIFY(panel.widget->soundButton()->property("muted").toBool());
@@ -183,7 +159,6 @@ void TestVideoPlayWidget::mutedAtStart()
 void TestVideoPlayWidget::openFileShowsVideoAndFigures()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
     QVERIFY(!panel.widget->openFile(m_dir + QStringLiteral("/nothing-here.mp4")));
     QVERIFY(!panel.widget->openFile(m_dir));
     QVERIFY(panel.widget->isLogoShown());
@@ -217,9 +192,7 @@ void TestVideoPlayWidget::openFileShowsVideoAndFigures()
 void TestVideoPlayWidget::labelsFollowFramesAndSliderSeeks()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
-    QVERIFY(panel.open(m_video));
-    panel.widget->pause();
+    QVERIFY(panel.open(m_video, true));
     QSignalSpy times(panel.widget.get(), &VideoPlayWidget::playerTimePos);
 
     // 2.04 s is frame 51: the second frame of second 2 reads 01 (frames count from 0).
@@ -258,9 +231,7 @@ void TestVideoPlayWidget::labelsFollowFramesAndSliderSeeks()
 void TestVideoPlayWidget::transportButtons()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
-    QVERIFY(panel.open(m_video));
-    panel.widget->pause();
+    QVERIFY(panel.open(m_video, true));
     QVERIFY(panel.seekForCapture(1.0));
     QCOMPARE(panel.mpv()->getCurrentFrame(), 25);
 
@@ -298,34 +269,11 @@ void TestVideoPlayWidget::transportButtons()
     QVERIFY(!panel.widget->isLogoShown());
 }
 
-void TestVideoPlayWidget::spaceShortcutTogglesPlayback()
-{
-    Panel panel;
-    QVERIFY(panel.exposed());
-    panel.widget->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(panel.widget.get()));
-    QVERIFY(panel.open(m_video));
-    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Play);
-    QTest::keyClick(panel.widget.get(), Qt::Key_Space);
-    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Pause);
-    QTest::keyClick(panel.widget.get(), Qt::Key_Space);
-    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Play);
-    QTest::keyClick(panel.widget.get(), Qt::Key_Slash, Qt::ControlModifier);
-    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
-    QVERIFY(panel.widget->isLogoShown());
-}
-
 void TestVideoPlayWidget::captureButtons()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
     QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
-    // Nothing loaded: capture fails quietly.
-    panel.click(VideoPlayWidget::ButtonCapture);
-    QVERIFY(!TestSupport::hasEvent(bus, AppConfig::CAPTURE_IMAGE));
-
-    QVERIFY(panel.open(m_video));
-    panel.widget->pause();
+    QVERIFY(panel.open(m_video, true));
     QVERIFY(panel.seekForCapture(3.0));
     panel.click(VideoPlayWidget::ButtonCapture);
     const QList<QVariant> captures = TestSupport::eventValues(bus, AppConfig::CAPTURE_IMAGE);
@@ -348,9 +296,7 @@ void TestVideoPlayWidget::captureButtons()
 void TestVideoPlayWidget::captureSeekRepliesFollowCaptureType()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
-    QVERIFY(panel.open(m_video));
-    panel.widget->pause();
+    QVERIFY(panel.open(m_video, true));
     QSignalSpy events(panel.widget.get(), &VideoPlayWidget::captureEventSignal);
     QSignalSpy select(panel.widget.get(), &VideoPlayWidget::captureSelectSignal);
 
@@ -387,18 +333,10 @@ void TestVideoPlayWidget::captureSeekRepliesFollowCaptureType()
 void TestVideoPlayWidget::subtitleAddAndRemove()
 {
     const QString ass = m_dir + QStringLiteral("/panel.ass");
-    QVERIFY(TestSupport::writeFile(ass, QByteArrayLiteral(
-        "[Script Info]\nScriptType: v4.00+\n\n[V4+ Styles]\n"
-        "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, Bold, "
-        "Italic, Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, Alignment, "
-        "MarginL, MarginR, MarginV, Encoding\n"
-        "Style: Default,Arial,24,&H00FFFFFF,&H000000FF,&H00000000,&H00000000,0,0,0,0,100,100,0,0,1,1,1,2,10,10,10,1\n"
-        "\n[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n"
-        "Dialogue: 0,0:00:00.00,0:00:09.00,Default,,0,0,0,,{\\pos(192,268)}GLIMMER CAPTION\n")));
+    QVERIFY(TestSupport::writeFile(
+        ass, TestSupport::assFile("Dialogue: 0,0:00:00.00,0:00:09.00,Default,,0,0,0,,{\\pos(192,268)}GLIMMER CAPTION\n")));
     Panel panel;
-    QVERIFY(panel.exposed());
-    QVERIFY(panel.open(m_video));
-    panel.widget->pause();
+    QVERIFY(panel.open(m_video, true));
     QVERIFY(panel.seekForCapture(4.0));
     const QImage plain = panel.mpv()->takeSnapshot().toImage();
     // Opaque pixels: mpv's fourth byte is padding, not alpha.
@@ -430,40 +368,48 @@ void TestVideoPlayWidget::subtitleAddAndRemove()
     QVERIFY(TestSupport::meanDifference(panel.mpv()->takeSnapshot().toImage(), plain) < 0.01);
 }
 
-void TestVideoPlayWidget::dropAcceptsOnlyOneFile()
+void TestVideoPlayWidget::unloadedPanelTakesOneDroppedFile()
 {
     Panel panel;
-    QVERIFY(panel.exposed());
     QSignalSpy dragged(panel.widget.get(), &VideoPlayWidget::dragFileSignal);
-    const QPoint inside(100, 100);
-
+    // Qt delivers a drop to the widget that accepted the drag's entry.
+    const auto dragAndDrop = [&panel](QMimeData& data) {
+        QDragEnterEvent enter(QPoint(100, 100), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.setAccepted(false);
+        QApplication::sendEvent(panel.widget.get(), &enter);
+        QDropEvent drop(QPoint(100, 100), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        if (enter.isAccepted()) {
+            QApplication::sendEvent(panel.widget.get(), &drop);
+        }
+        return enter.isAccepted();
+    };
     QMimeData several;
     several.setUrls({QUrl::fromLocalFile(m_video), QUrl::fromLocalFile(m_dir + QStringLiteral("/b.mp4"))});
-    QDragEnterEvent enter(inside, Qt::CopyAction, &several, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(panel.widget.get(), &enter);
-    QVERIFY(enter.isAccepted());
-    QDropEvent dropSeveral(inside, Qt::CopyAction, &several, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(panel.widget.get(), &dropSeveral);
+    QVERIFY(dragAndDrop(several));
     QCOMPARE(dragged.count(), 0);
-
     QMimeData text;
     text.setText(QStringLiteral("not a file"));
-    QDragEnterEvent enterText(inside, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
-    enterText.setAccepted(false);
-    QApplication::sendEvent(panel.widget.get(), &enterText);
-    QVERIFY(!enterText.isAccepted());
-
-    // Qt delivers a drop to the widget that accepted the drag's entry.
+    QVERIFY(!dragAndDrop(text));
     QMimeData one;
     one.setUrls({QUrl::fromLocalFile(m_video)});
-    QDragEnterEvent enterOne(inside, Qt::CopyAction, &one, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(panel.widget.get(), &enterOne);
-    QVERIFY(enterOne.isAccepted());
-    QDropEvent dropOne(inside, Qt::CopyAction, &one, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(panel.widget.get(), &dropOne);
+    QVERIFY(dragAndDrop(one));
     QCOMPARE(dragged.count(), 1);
     QCOMPARE(dragged.at(0).at(0).toString(), m_video);
     QVERIFY(panel.widget->isLogoShown());
+
+    // Nothing loaded: the start state. Frame steps do nothing but still report the click.
+    QVERIFY(!panel.mpv()->isVisible());
+    QCOMPARE(panel.widget->speedComboBox()->currentText(), QStringLiteral("1.00x"));
+    QSignalSpy clicked(panel.widget.get(), &BaseWidget::buttonClicked);
+    panel.click(VideoPlayWidget::ButtonPreviousFrame);
+    panel.click(VideoPlayWidget::ButtonNextFrame);
+    QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Stop);
+    QCOMPARE(clicked.count(), 2);
+    QCOMPARE(clicked.at(1).at(0).toInt(), 1);
+    QSignalSpy errors(panel.mpv(), &MpvWidget::error);
+    QVERIFY(panel.mpv()->takeSnapshot(QStringLiteral("/tmp/unused.jpg")).isNull());
+    QCOMPARE(errors.count(), 1);
+    QCOMPARE(errors.at(0).at(0).toString(), QStringLiteral("Cannot take snapshot"));
 }
 
 void TestVideoPlayWidget::badFilesReturnToLogo()
@@ -476,7 +422,6 @@ void TestVideoPlayWidget::badFilesReturnToLogo()
                                                   {QStringLiteral("words.mp4"), QByteArray("just some words\n")},
                                                   {QStringLiteral("empty.mkv"), QByteArray()}};
     Panel panel;
-    QVERIFY(panel.exposed());
     QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
     for (const auto& file : files) {
         const QString path = m_dir + QLatin1Char('/') + file.first;
@@ -521,8 +466,7 @@ void TestVideoPlayWidget::unusualVideos()
     QVERIFY(TestSupport::makeVideo(silent, 3.0, 640, 360, 30, false));
     {
         Panel panel;
-        QVERIFY(panel.exposed());
-        QVERIFY(panel.open(silent));
+            QVERIFY(panel.open(silent));
         QCOMPARE(panel.mpv()->getFrameInSecond(), 30);
         QCOMPARE(panel.mpv()->pollInterval(), 1000 / 32);
         QTRY_VERIFY_WITH_TIMEOUT(panel.mpv()->getCurrentSecond() > 0.2, 5000);
@@ -533,10 +477,8 @@ void TestVideoPlayWidget::unusualVideos()
     QVERIFY(TestSupport::makeVideo(uhd, 1.0, 3840, 2160, 25, true));
 
     Panel panel;
-    QVERIFY(panel.exposed());
     QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
-    QVERIFY(panel.open(uhd));
-    panel.widget->pause();
+    QVERIFY(panel.open(uhd, true));
     QVERIFY(panel.seekForCapture(0.5));
     panel.click(VideoPlayWidget::ButtonCapture);
     const QList<QVariant> captures = TestSupport::eventValues(bus, AppConfig::CAPTURE_IMAGE);

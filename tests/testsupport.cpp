@@ -8,7 +8,12 @@
 #include <QTimer>
 
 #include "appconfig.h"
+#include "captioninfo.h"
 #include "captionmanager.h"
+#include "globalmanager.h"
+#include "mainwindow.h"
+#include "mpvwidget.h"
+#include "videoplaywidget.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -21,6 +26,8 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTcpServer>
+#include <QTest>
+#include <QTime>
 #include <QtGlobal>
 
 #include <clocale>
@@ -116,6 +123,60 @@ QByteArray utterances(const QList<std::tuple<int, int, QString>>& items)
     return QJsonDocument(QJsonObject{{QStringLiteral("state"), QStringLiteral("success")},
                                      {QStringLiteral("utterances"), array}})
         .toJson(QJsonDocument::Compact);
+}
+
+QByteArray assFile(const QByteArray& events, const QByteArray& moreStyles)
+{
+    return "[Script Info]\nScriptType: v4.00+\n\n[V4+ Styles]\n"
+           "Format: Name, Fontname, Fontsize, PrimaryColour, SecondaryColour, OutlineColour, BackColour, Bold, Italic, "
+           "Underline, StrikeOut, ScaleX, ScaleY, Spacing, Angle, BorderStyle, Outline, Shadow, Alignment, MarginL, "
+           "MarginR, MarginV, Encoding\n"
+           "Style: Default,Arial,20,&H00FFFFFF,&H000000FF,&H00000000,&H80000000,0,0,0,0,100,100,0,0,1,2,1,2,20,20,20,1\n"
+           + moreStyles
+           + "\n[Events]\nFormat: Layer, Start, End, Style, Name, MarginL, MarginR, MarginV, Effect, Text\n" + events;
+}
+
+QByteArray srt(const QList<std::tuple<int, int, QString>>& captions)
+{
+    const auto time = [](int ms) { return QTime(0, 0).addMSecs(ms).toString(QStringLiteral("hh:mm:ss,zzz")); };
+    QString text;
+    int number = 0;
+    for (const auto& caption : captions) {
+        text += QStringLiteral("%1\n%2 --> %3\n%4\n\n")
+                    .arg(++number)
+                    .arg(time(std::get<0>(caption)), time(std::get<1>(caption)), std::get<2>(caption));
+    }
+    return text.toUtf8();
+}
+
+QStringList captionTexts()
+{
+    QStringList texts;
+    for (const CaptionInfo* info : CaptionManager::instance()->getCaptions()) {
+        texts << info->text;
+    }
+    return texts;
+}
+
+MainWindow* showMainWindow()
+{
+    qApp->setStyleSheet(AppConfig::loadApplicationStyleSheet());
+    auto* window = new MainWindow();
+    window->show();
+    window->resize(AppConfig::rate(QSize(1100, 741)));
+    window->videoPlayWidget()->getMpvWidget()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
+    if (!QTest::qWaitForWindowExposed(window)) {
+        std::fputs("The main window was never shown.\n", stderr);
+    }
+    return window;
+}
+
+bool openVideo(MainWindow* window, const QString& path)
+{
+    const QString name = QFileInfo(path).fileName();
+    return window->videoPlayWidget()->openFile(path) && QTest::qWaitFor([&name]() {
+               return GlobalManager::instance()->getCurrentFile().fileName() == name;
+           }, 20000);
 }
 
 bool writeFile(const QString& path, const QByteArray& bytes)

@@ -14,6 +14,8 @@
 
 #include <tuple>
 
+class MainWindow;
+
 // Helpers shared by the test suites: isolation from the user's files and
 // media generated with the real ffmpeg at test time.
 namespace TestSupport {
@@ -38,6 +40,22 @@ bool makeVideo(const QString& path, double seconds, int width = 1280, int height
 
 // A speech service answer with these (start ms, end ms, text) utterances.
 QByteArray utterances(const QList<std::tuple<int, int, QString>>& items);
+
+// An ASS file: script header, a Default style (Arial 20, outline 2, shadow 1,
+// bottom centre) and moreStyles, the event format line, then the events.
+QByteArray assFile(const QByteArray& events, const QByteArray& moreStyles = QByteArray());
+
+// An SRT file of these (start ms, end ms, text) captions.
+QByteArray srt(const QList<std::tuple<int, int, QString>>& captions);
+
+// The texts of the caption list, in order.
+QStringList captionTexts();
+
+// A main window shown at the start-up size with the application's style, without sound.
+MainWindow* showMainWindow();
+
+// Opens a video in the window; true once it is the current file.
+bool openVideo(MainWindow* window, const QString& path);
 
 // Writes bytes to a file, creating the folder.
 bool writeFile(const QString& path, const QByteArray& bytes);
