@@ -155,6 +155,9 @@ MpvWidget::MpvWidget(QWidget* parent)
 
 MpvWidget::~MpvWidget()
 {
+    // The base class destroys the GL context after this object is gone: its
+    // signal must not call back into what is left of us.
+    disconnect(contextDestroyed);
     freeRenderContext();
     if (mpv) {
         mpv_set_wakeup_callback(mpv, nullptr, nullptr);
@@ -207,8 +210,9 @@ void MpvWidget::initializeGL()
     mpv_render_context_set_update_callback(mpv_gl, on_update, this);
     // Moving the widget to another window recreates its GL context: the
     // render context must go with the old one.
-    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &MpvWidget::freeRenderContext,
-            Qt::DirectConnection);
+    disconnect(contextDestroyed);
+    contextDestroyed = connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &MpvWidget::freeRenderContext,
+                               Qt::DirectConnection);
     if (loadPending) {
         loadPending = false;
         issueLoad();

@@ -142,6 +142,7 @@ private:
 
     mpv_handle* mpv = nullptr;
     mpv_render_context* mpv_gl = nullptr;
+    QMetaObject::Connection contextDestroyed;
     PlayStatus playStatus = Stop;
     QString filePath;
     QTimer* timer = nullptr;
