@@ -416,7 +416,7 @@ void TestVideoPlayWidget::badFilesReturnToLogo()
 {
     QByteArray noise(300000, '\0');
     for (int i = 0; i < noise.size(); ++i) {
-        noise[i] = static_cast<char>((i * 31337 + 7) % 253);
+        noise[i] = static_cast<char>((quint32(i) * 31337u + 7u) % 253u);
     }
     const QList<QPair<QString, QByteArray>> files{{QStringLiteral("noise.mp4"), noise},
                                                   {QStringLiteral("words.mp4"), QByteArray("just some words\n")},
