@@ -35,9 +35,10 @@ int main(int argc, char* argv[])
     // of piling up in one arena per thread.
     mallopt(M_ARENA_MAX, 2);
 #endif
-    // Never a window: the offscreen platform needs no display and still has
-    // the fonts the watermark is drawn with.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Never a window: the minimal platform needs no display, still has the
+    // fonts the watermark is drawn with, and (unlike the offscreen one) frees
+    // its screen at exit.
+    qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts");
     qInstallMessageHandler(messageHandler);
     QGuiApplication app(argc, argv);
     // libmpv refuses to start under a non-C numeric locale.
@@ -70,8 +71,10 @@ int main(int argc, char* argv[])
     qputenv("TMPDIR", QFile::encodeName(work.path()));
 
     AppConfig::registerMetaTypes();
-    // Registered or not, as the window would be with the stored licence.
-    LicenseManager::instance()->restore();
+    // Registered or not, as the window would be with the stored licence. No
+    // check over the network: the command may end before any answer, and a
+    // request still under way as the program exits can bring it down.
+    LicenseManager::instance()->restoreStored();
 
     ProgressReporter progress(ProgressReporter::modeFor(stderr, options.quiet));
     int exitCode = 1;

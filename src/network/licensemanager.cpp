@@ -55,12 +55,18 @@ QJsonObject LicenseManager::requestBody(const QString& key) const
 
 void LicenseManager::restore()
 {
+    restoreStored();
     const QString stored = Settings::instance()->value(AppConfig::APP_REGISTER).toString();
-    setRegistered(!stored.isEmpty());
-    qDebug() << "licence restored:" << (stored.isEmpty() ? "false" : "true");
     if (!stored.isEmpty()) {
         HttpManager::instance()->post(licenseServerUrl() + kVerifyPath, requestBody(stored), 0);
     }
+}
+
+void LicenseManager::restoreStored()
+{
+    const QString stored = Settings::instance()->value(AppConfig::APP_REGISTER).toString();
+    setRegistered(!stored.isEmpty());
+    qDebug() << "licence restored:" << (stored.isEmpty() ? "false" : "true");
 }
 
 void LicenseManager::registerKey(const QString& key)

@@ -31,6 +31,9 @@ public:
     // Restores the state from the stored key; emits "regiseter_complete" with
     // the restored state and starts the background check.
     void restore();
+    // The stored state alone, with no check over the network (a command that
+    // ends before any answer could arrive).
+    void restoreStored();
 
     // Sends the key to the server. The outcome arrives on the bus:
     // "regiseter_complete" 1 when accepted; "regiseter_error" with a text when
