@@ -95,6 +95,10 @@ public:
     bool isEofReached() const { return eofReached; }
     int pollInterval() const;
     bool hasRenderContext() const { return mpv_gl != nullptr; }
+    // The position libmpv last reported by itself. Unlike getCurrentSecond()
+    // it never waits for the player, which right after a seek is itself
+    // waiting for this thread to draw the frame (up to 200 ms).
+    double reportedSecond() const { return observedTimePos; }
 
     // The frame on screen at video resolution, with the subtitles burnt in.
     // The path is accepted for callers that name a target; nothing is written.

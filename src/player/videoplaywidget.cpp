@@ -616,7 +616,7 @@ void VideoPlayWidget::mpvEventHandle(mpv_event* event)
             emit captureEventSignal(MpvWidget::RequestSubRemove, 0);
             break;
         case MpvWidget::RequestCaptureSeek:
-            qDebug() << "seek complete：" << m_mpv->getCurrentSecond();
+            qDebug() << "seek complete：" << m_mpv->reportedSecond();
             if (captureType == 0) {
                 emit captureEventSignal(MpvWidget::RequestCaptureSeek, 0);
             } else {
