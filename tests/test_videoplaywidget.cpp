@@ -19,21 +19,16 @@
 
 namespace {
 
-class Panel
+// The shared panel with the capture button's flow, as the main window wires
+// it, and libmpv's replies and restarts in the order they came.
+class Panel : public TestSupport::PlayerPanel
 {
 public:
     Panel()
-        : widget(new VideoPlayWidget())
-        , capture(new CaptureController(new PlayerCaptureSource(widget.get()), nullptr, widget.get()))
+        : capture(new CaptureController(new PlayerCaptureSource(widget.get()), nullptr, widget.get()))
     {
-        // The capture button's flow, as the main window wires it.
         QObject::connect(widget.get(), &VideoPlayWidget::captureNowRequested, capture, &CaptureController::captureNow);
-        mpv()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
-        widget->resize(900, 640);
-        widget->show();
-        shown = QTest::qWaitForWindowExposed(widget.get());
         QObject::connect(mpv(), &MpvWidget::playbackRestarted, widget.get(), [this](MpvWidget::RestartKind kind) {
-            restarts.append(kind);
             order.append(QStringLiteral("restart%1").arg(int(kind)));
         });
         QObject::connect(mpv(), &MpvWidget::mpvEvents, widget.get(), [this](mpv_event* event) {
@@ -56,41 +51,12 @@ public:
         return errors;
     }
 
-    MpvWidget* mpv() const { return widget->getMpvWidget(); }
-    bool open(const QString& path, bool paused = false)
-    {
-        restarts.clear();
-        if (!shown || !widget->openFile(path) || !waitFor(MpvWidget::RestartAfterLoad, 20000)) {
-            return false;
-        }
-        if (paused) {
-            widget->pause();
-        }
-        return true;
-    }
-
-    bool waitFor(MpvWidget::RestartKind kind, int timeoutMs = 10000)
-    {
-        return QTest::qWaitFor([&] { return restarts.contains(kind); }, timeoutMs);
-    }
-
-    bool seekForCapture(double seconds)
-    {
-        restarts.clear();
-        mpv()->seekToPositionForCapture(seconds);
-        return waitFor(MpvWidget::RestartAfterCaptureSeek);
-    }
-
     void click(int id) { widget->getControlButton(id)->click(); }
 
-    std::unique_ptr<VideoPlayWidget> widget;
     CaptureController* capture;
-    bool shown = false;
-    QList<MpvWidget::RestartKind> restarts;
     QList<QPair<quint64, int>> replies;
     QStringList order;
 };
-
 
 } // namespace
 
@@ -166,9 +132,8 @@ void TestVideoPlayWidget::openFileShowsVideoAndFigures()
     QSignalSpy bus(GlobalManager::instance(), &GlobalManager::globalEvent);
     QSignalSpy polled(panel.mpv(), &MpvWidget::getMpvProperty);
     QVERIFY(panel.open(m_video));
-    QCOMPARE(panel.mpv()->getFrameInSecond(), 25);
-    QCOMPARE(panel.mpv()->pollInterval(), 37);
-    QCOMPARE(panel.mpv()->getTotalFrame(), 250);
+    QCOMPARE((QList<int>{panel.mpv()->getFrameInSecond(), panel.mpv()->pollInterval(), panel.mpv()->getTotalFrame()}),
+             (QList<int>{25, 37, 250}));
     QVERIFY(qAbs(panel.mpv()->getTotalSeconds() - 10.0) < 0.05);
     QCOMPARE(panel.mpv()->getMpvPlayerSize(), qMakePair(1280, 720));
     QCOMPARE(panel.mpv()->getFilePath(), m_video);
@@ -176,9 +141,7 @@ void TestVideoPlayWidget::openFileShowsVideoAndFigures()
     QTRY_VERIFY_WITH_TIMEOUT(polled.count() >= 4, 3000);
     QCOMPARE(polled.at(0).at(0).toString(), AppConfig::MPV_DURATION);
     QCOMPARE(polled.at(1).at(0).toString(), AppConfig::MPV_TIME_POS);
-    QVERIFY(!panel.widget->isLogoShown());
-    QVERIFY(panel.mpv()->isVisible());
-    QVERIFY(panel.widget->isLoadFile());
+    QVERIFY(!panel.widget->isLogoShown() && panel.mpv()->isVisible() && panel.widget->isLoadFile());
     QCOMPARE(TestSupport::eventValues(bus, AppConfig::LOAD_FILE_COMPLETE).value(0).toString(), m_video);
     QCOMPARE(GlobalManager::instance()->readSettings(AppConfig::OPEN_FILE_PATH).toString(), m_video);
     QCOMPARE(panel.widget->progressSlider()->maximum(), 10);
@@ -289,8 +252,7 @@ void TestVideoPlayWidget::captureButtons()
     panel.click(VideoPlayWidget::ButtonCaptureSelected);
     QCOMPARE(panel.mpv()->getPlayStatus(), MpvWidget::Pause);
     QCOMPARE(panel.widget->getCaptureType(), 1);
-    QCOMPARE(select.count(), 1);
-    QCOMPARE(select.at(0).at(0).toInt(), 0);
+    QVERIFY(select.count() == 1 && select.at(0).at(0).toInt() == 0);
 }
 
 void TestVideoPlayWidget::captureSeekRepliesFollowCaptureType()
@@ -302,8 +264,7 @@ void TestVideoPlayWidget::captureSeekRepliesFollowCaptureType()
 
     panel.order.clear();
     QVERIFY(panel.seekForCapture(3.5));
-    QCOMPARE(events.count(), 1);
-    QCOMPARE(events.at(0).at(0).toInt(), 16);
+    QVERIFY(events.count() == 1 && events.at(0).at(0).toInt() == 16);
     QCOMPARE(select.count(), 0);
     // The reply comes first; the frame is ready at the restart after it, on the
     // first frame at or after the target.
@@ -326,8 +287,7 @@ void TestVideoPlayWidget::captureSeekRepliesFollowCaptureType()
     panel.widget->changeCaptureType(1);
     QVERIFY(panel.seekForCapture(2.5));
     QCOMPARE(events.count(), 1);
-    QCOMPARE(select.count(), 1);
-    QCOMPARE(select.at(0).at(0).toInt(), 17);
+    QVERIFY(select.count() == 1 && select.at(0).at(0).toInt() == 17);
 }
 
 void TestVideoPlayWidget::subtitleAddAndRemove()
@@ -393,8 +353,7 @@ void TestVideoPlayWidget::unloadedPanelTakesOneDroppedFile()
     QMimeData one;
     one.setUrls({QUrl::fromLocalFile(m_video)});
     QVERIFY(dragAndDrop(one));
-    QCOMPARE(dragged.count(), 1);
-    QCOMPARE(dragged.at(0).at(0).toString(), m_video);
+    QVERIFY(dragged.count() == 1 && dragged.at(0).at(0).toString() == m_video);
     QVERIFY(panel.widget->isLogoShown());
 
     // Nothing loaded: the start state. Frame steps do nothing but still report the click.
@@ -408,8 +367,7 @@ void TestVideoPlayWidget::unloadedPanelTakesOneDroppedFile()
     QCOMPARE(clicked.at(1).at(0).toInt(), 1);
     QSignalSpy errors(panel.mpv(), &MpvWidget::error);
     QVERIFY(panel.mpv()->takeSnapshot(QStringLiteral("/tmp/unused.jpg")).isNull());
-    QCOMPARE(errors.count(), 1);
-    QCOMPARE(errors.at(0).at(0).toString(), QStringLiteral("Cannot take snapshot"));
+    QVERIFY(errors.count() == 1 && errors.at(0).at(0).toString() == QStringLiteral("Cannot take snapshot"));
 }
 
 void TestVideoPlayWidget::badFilesReturnToLogo()
@@ -445,12 +403,6 @@ void TestVideoPlayWidget::badFilesReturnToLogo()
     QVERIFY(panel.widget->openFile(sound));
     QVERIFY(refused.wait(10000));
     QVERIFY(refused.at(0).at(1).toString().contains(QStringLiteral("no video")));
-    QVERIFY(panel.widget->isLogoShown());
-
-    // A missing file handed straight to the player ends the same way.
-    QSignalSpy failedAgain(panel.mpv(), &MpvWidget::loadFailed);
-    panel.widget->loadFileByFileName(m_dir + QStringLiteral("/gone.mp4"));
-    QVERIFY(failedAgain.wait(10000));
     QVERIFY(panel.widget->isLogoShown());
     QVERIFY(!TestSupport::hasEvent(bus, AppConfig::LOAD_FILE_COMPLETE));
 
