@@ -109,10 +109,8 @@ void TestCheckUpdateDialog::newerVersionOffered()
 
     QSignalSpy finished(&dialog, &QDialog::finished);
     dialog.updateNowButton()->click();
-    QCOMPARE(m_openedUrls.size(), 1);
-    QCOMPARE(m_openedUrls.first(), QUrl(QStringLiteral("https://download.glimmer-app.org/glimmer/GlimmerSetup-1.10.0.exe")));
-    QCOMPARE(finished.count(), 1);
-    QVERIFY(!dialog.isVisible());
+    QCOMPARE(m_openedUrls, QList<QUrl>{QUrl("https://download.glimmer-app.org/glimmer/GlimmerSetup-1.10.0.exe")});
+    QVERIFY(finished.count() == 1 && !dialog.isVisible());
 
     // The answer was saved; a new dialog starts from it.
     CheckUpdateDialog later;
