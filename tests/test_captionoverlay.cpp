@@ -75,8 +75,7 @@ private slots:
     void init();
     void captionAtTime();
     void geometryFollowsScriptSpaceAndLetterbox();
-    void styleBarSendsOneEditAfterSteps();
-    void styleBarApplyToAllAndCaptionSwitch();
+    void styleBarSendsOneEdit();
     void editAndDragInPlace();
     void panelAddsCaptionAtCurrentTime();
     void editsReachTheBurntInFrame();
@@ -123,8 +122,7 @@ void TestCaptionOverlay::geometryFollowsScriptSpaceAndLetterbox()
     CaptionEdit* edit = placeAt(info, 192, 268);
     overlay.setCaption(info);
     QRect box = overlay.captionRect();
-    QVERIFY(qAbs(box.center().x() - 320) <= 1);
-    QVERIFY(qAbs(box.bottom() - (60 + 335 + 4)) <= 1);
+    QVERIFY(qAbs(box.center().x() - 320) <= 1 && qAbs(box.bottom() - (60 + 335 + 4)) <= 1);
     QVERIFY(box.height() > 10);
 
     // A bigger font gives a bigger box.
@@ -135,7 +133,7 @@ void TestCaptionOverlay::geometryFollowsScriptSpaceAndLetterbox()
     QVERIFY(overlay.captionRect().isNull());
 }
 
-void TestCaptionOverlay::styleBarSendsOneEditAfterSteps()
+void TestCaptionOverlay::styleBarSendsOneEdit()
 {
     CaptionStyleBar bar;
     CaptionInfo* info = captionWithText(QStringLiteral("two"));
@@ -175,19 +173,15 @@ void TestCaptionOverlay::styleBarSendsOneEditAfterSteps()
     QVERIFY(!info->isCheck);
     QVERIFY(ticks.count() == 1 && ticks.at(0).at(1).toInt() == int(Qt::Unchecked));
     QCOMPARE(edits.count(), 1);
-}
 
-void TestCaptionOverlay::styleBarApplyToAllAndCaptionSwitch()
-{
-    CaptionStyleBar bar;
+    // Applied to all: moving to another caption sends the waiting change at once.
     CaptionInfo* one = captionWithText(QStringLiteral("one"));
     CaptionInfo* three = captionWithText(QStringLiteral("three"));
     bar.setCaption(one);
     bar.applyAllBox()->setChecked(true);
-    QSignalSpy edits(&bar, &CaptionStyleBar::captionEditSignal);
+    edits.clear();
 
     bar.xBox()->setValue(100);
-    // Moving to another caption sends the waiting change for the first one at once.
     bar.setCaption(three);
     QCOMPARE(edits.count(), 1);
     QVERIFY(edits.at(0).at(0).value<CaptionInfo*>() == one && edits.at(0).at(1).toBool());
@@ -264,8 +258,7 @@ void TestCaptionOverlay::editAndDragInPlace()
     dragTo(start + QPoint(64, -72));
     QTest::mouseRelease(&overlay, Qt::LeftButton, Qt::NoModifier, start + QPoint(64, -72));
     QCOMPARE(moves.count(), 1);
-    QVERIFY(qAbs(info->captionEdit->x - 230) <= 1);
-    QVERIFY(qAbs(info->captionEdit->y - 210) <= 1);
+    QVERIFY(qAbs(info->captionEdit->x - 230) <= 1 && qAbs(info->captionEdit->y - 210) <= 1);
     QCOMPARE(bar.xBox()->value(), info->captionEdit->x);
 
     // A click without a move is no drag.
@@ -289,8 +282,7 @@ void TestCaptionOverlay::panelAddsCaptionAtCurrentTime()
     QTRY_VERIFY_WITH_TIMEOUT(qAbs(panel.getCurrentTime() - 2.0) < 0.001, 5000);
     // The overlay and the toolbar follow the caption on screen.
     CaptionInfo* one = captionWithText(QStringLiteral("one"));
-    QCOMPARE(panel.getCaptionOverlay()->caption(), one);
-    QCOMPARE(panel.getCaptionStyleBar()->caption(), one);
+    QVERIFY(panel.getCaptionOverlay()->caption() == one && panel.getCaptionStyleBar()->caption() == one);
 
     // Inside a caption nothing is added, the panel says so, and the caption
     // there is not opened for typing over.
@@ -307,12 +299,8 @@ void TestCaptionOverlay::panelAddsCaptionAtCurrentTime()
     QVERIFY(!panel.getCaptionStyleBar()->fontSizeBox()->isEnabled());
 
     CaptionInfo* added = panel.insertCaptionAtCurrentTime();
-    QVERIFY(added);
-    QCOMPARE(CaptionManager::instance()->getCaptions().size(), 4);
-    QCOMPARE(CaptionManager::instance()->getCaptions().at(1), added);
-    QCOMPARE(added->startMs(), 4000);
-    // The gap up to the next caption, less 10 ms, is shorter than 3 s.
-    QCOMPARE(added->endMs(), 4990);
+    // At the panel's time (where and how long: test_captionmanager's insert).
+    QVERIFY(added && added->startMs() == 4000);
     QVERIFY(added->isInsert && !added->text.isEmpty() && added->captionEdit);
     QCOMPARE(added->captionEdit->text, added->text);
     QCOMPARE(edits.count(), 1);
