@@ -277,8 +277,7 @@ private slots:
         m_controller->setEditedCaption(captions->getCaptions().first());
         QCOMPARE(m_controller->queue().size(), 1);
         captions->clearCaptions();
-        QVERIFY(m_controller->queue().isEmpty());
-        QVERIFY(!m_controller->editedCaption());
+        QVERIFY(m_controller->queue().isEmpty() && !m_controller->editedCaption());
     }
 
 private:

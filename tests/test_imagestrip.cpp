@@ -140,8 +140,7 @@ void TestImageStrip::stripChangesEmitOnce()
     QPointer<ImageItem> first = m_strip->items().first();
     m_strip->clearButtonClickedHandle();
     QCOMPARE(events(), 3);
-    QVERIFY(m_strip->items().isEmpty());
-    QVERIFY(selection().isEmpty());
+    QVERIFY(m_strip->items().isEmpty() && selection().isEmpty());
     QTRY_VERIFY(first.isNull());
 }
 
@@ -190,8 +189,7 @@ void TestImageStrip::listViewMirrorsAndDrivesStrip()
     TestSupport::answerConfirmation(QStringLiteral("Remove"));
     dialog->deleteAllButton()->click();
     QCOMPARE(events(), 4);
-    QVERIFY(m_strip->items().isEmpty());
-    QVERIFY(dialog->items().isEmpty());
+    QVERIFY(m_strip->items().isEmpty() && dialog->items().isEmpty());
     dialog->hide();
 }
 

@@ -114,8 +114,7 @@ void TestPreviewWidget::sizeLabelZoomAndScaleFields()
     QCOMPARE(preview.propertyItem(PropertyItem::Height)->getText(), QStringLiteral("200"));
 
     strip.clearButtonClickedHandle();
-    QVERIFY(preview.sizeLabel()->text().isEmpty());
-    QVERIFY(!preview.saveFileBar()->exportButton()->isEnabled());
+    QVERIFY(preview.sizeLabel()->text().isEmpty() && !preview.saveFileBar()->exportButton()->isEnabled());
     preview.propertyItem(PropertyItem::Scale)->setText(QStringLiteral("100"));
 }
 

@@ -62,8 +62,7 @@ private slots:
         QCOMPARE((QList<int>{start.count(), stop.count(), failed.count()}), (QList<int>{1, 0, 0}));
         // The child is still running until someone stops it.
         const qint64 pid = runner.processId();
-        QVERIFY(pid > 0);
-        QVERIFY(QFile::exists(QStringLiteral("/proc/%1").arg(pid)));
+        QVERIFY(pid > 0 && QFile::exists(QStringLiteral("/proc/%1").arg(pid)));
         runner.stopProcess();
         QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(QStringLiteral("/proc/%1/cmdline").arg(pid))
                                      || QFile(QStringLiteral("/proc/%1/cmdline").arg(pid)).size() == 0,

@@ -64,8 +64,7 @@ private slots:
         QVERIFY(QDir(write).exists());
 
         const QString temp = g->getTempPath(AppConfig::APP_NAME);
-        QVERIFY(temp.endsWith(QStringLiteral("/Glimmer")));
-        QVERIFY(QDir(temp).exists());
+        QVERIFY(temp.endsWith(QStringLiteral("/Glimmer")) && QDir(temp).exists());
 
         const QString wanted = QDir::tempPath() + QStringLiteral("/a/b/c");
         QCOMPARE(g->getDirByCheck(wanted), wanted);
