@@ -6,7 +6,6 @@
 #include "testsupport.h"
 
 #include <QDesktopServices>
-#include <QFile>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>

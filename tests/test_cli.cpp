@@ -10,7 +10,6 @@
 #include "videoplaywidget.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QProcess>
 #include <QSettings>
 #include <QSignalSpy>

@@ -10,7 +10,6 @@
 #include "propertyitem.h"
 #include "testsupport.h"
 
-#include <QApplication>
 #include <QtTest>
 #include <functional>
 

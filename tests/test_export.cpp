@@ -14,7 +14,6 @@
 #include "saveimagethread.h"
 #include "testsupport.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QDBusConnection>

@@ -7,7 +7,6 @@
 #include "savefilebar.h"
 #include "testsupport.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QPointer>
 #include <QPushButton>

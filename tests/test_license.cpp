@@ -6,8 +6,6 @@
 #include "registerguidedialog.h"
 #include "testsupport.h"
 
-#include <QApplication>
-#include <QFile>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLineEdit>

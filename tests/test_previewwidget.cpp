@@ -11,7 +11,6 @@
 #include "settings.h"
 #include "testsupport.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>

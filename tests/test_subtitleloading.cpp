@@ -9,7 +9,6 @@
 #include "globalmanager.h"
 #include "testsupport.h"
 
-#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTextCodec>
