@@ -5,7 +5,6 @@
 #include "loadingdialog.h"
 #include "mainwindow.h"
 #include "messagedialog.h"
-#include "mpvwidget.h"
 #include "speechdprocess.h"
 #include "speechservice.h"
 #include "testsupport.h"
@@ -42,10 +41,7 @@ private slots:
         SpeechService::instance()->setProgram(SpeechdProcess::program());
         global->saveSettings(AppConfig::SPEECH_SERVER_URL, url);
 
-        m_window = new MainWindow();
-        m_window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(m_window));
-        m_window->videoPlayWidget()->getMpvWidget()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
+        m_window = TestSupport::showMainWindow();
     }
 
     void cleanupTestCase()
@@ -57,13 +53,10 @@ private slots:
     void withoutAVideoTheUserIsTold()
     {
         emit m_window->captionWidget()->autoCaptionSignal(7);
-        QVERIFY(m_window->messageDialog()->isVisible());
-        QVERIFY(!m_window->loadingDialog()->isVisible());
+        QVERIFY(m_window->messageDialog()->isVisible() && !m_window->loadingDialog()->isVisible());
         m_window->messageDialog()->accept();
 
-        QVERIFY(m_window->videoPlayWidget()->openFile(m_video));
-        QTRY_VERIFY_WITH_TIMEOUT(GlobalManager::instance()->getCurrentFile().fileName() == QStringLiteral("spoken.mp4"),
-                                 20000);
+        QVERIFY(TestSupport::openVideo(m_window, m_video));
     }
 
     void aLanguageWithoutAModelFailsClearly()
@@ -100,8 +93,7 @@ private slots:
         QVERIFY(m_window->loadingDialog()->isVisible());
         QTRY_VERIFY_WITH_TIMEOUT(!CaptionManager::instance()->getCaptions().isEmpty(), 120000);
         QTRY_VERIFY_WITH_TIMEOUT(!m_window->loadingDialog()->isVisible(), 10000);
-        QVERIFY(!m_window->messageDialog()->isVisible());
-        QVERIFY(m_window->captionWidget()->isVisible());
+        QVERIFY(!m_window->messageDialog()->isVisible() && m_window->captionWidget()->isVisible());
         QCOMPARE(m_window->captionWidget()->items().size(), CaptionManager::instance()->getCaptions().size());
         // Real words, and the working file went to the player.
         QVERIFY(CaptionManager::instance()->getCaptions().first()->text.size() > 3);

@@ -100,15 +100,13 @@ private slots:
     void timeReadBack()
     {
         // Digits after the point are a count of hundredths, whatever their number.
-        QCOMPARE(CaptionManager::parseAssTime(QStringLiteral("0:0:5.3")), 5030);
-        QCOMPARE(CaptionManager::parseAssTime(QStringLiteral("0:00:05.30")), 5300);
-        QCOMPARE(CaptionManager::parseAssTime(QStringLiteral("0:0:3.123")), 4230);
-        QCOMPARE(CaptionManager::parseAssTime(QStringLiteral(" 1:02:03.45 ")), 3723450);
-        QCOMPARE(CaptionManager::parseAssTime(QStringLiteral("0:01:02")), 62000);
-        for (const char* bad : {"", "abc", "1:2", "1:2:3.", "1::3.4", "1:2:3.4.5", "-0:0:1.0", "1:2:3,45",
-                                "99999999999:0:0.0"}) {
-            QCOMPARE(CaptionManager::parseAssTime(QString::fromLatin1(bad)), -1);
+        // Text that is no time reads as -1.
+        QList<int> read;
+        for (const char* text : {"0:0:5.3", "0:00:05.30", "0:0:3.123", " 1:02:03.45 ", "0:01:02", "", "abc", "1:2",
+                                 "1:2:3.", "1::3.4", "1:2:3.4.5", "-0:0:1.0", "1:2:3,45", "99999999999:0:0.0"}) {
+            read << CaptionManager::parseAssTime(QString::fromLatin1(text));
         }
+        QCOMPARE(read, (QList<int>{5030, 5300, 4230, 3723450, 62000, -1, -1, -1, -1, -1, -1, -1, -1, -1}));
     }
 
     void timeRoundTrip()
@@ -156,8 +154,7 @@ private slots:
         QVERIFY(m->createCaptions(QByteArray("{\"state\":\"success\",\"utterances\":[]}"), false));
         QVERIFY(m->getCaptions().isEmpty());
         QCOMPARE(readText(m->getTempAssFilePath()), kHeader + kDefaultStyle + kEventsHeader);
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0).at(0).toString(), AppConfig::CREATE_CAPTION_COMPLETE);
+        QVERIFY(spy.count() == 1 && spy.at(0).at(0).toString() == AppConfig::CREATE_CAPTION_COMPLETE);
         QCOMPARE(spy.at(0).at(1).toString(), m->getTempAssFilePath());
 
         // Not JSON at all: the same empty file, the same event.
@@ -177,10 +174,9 @@ private slots:
         const QList<CaptionInfo*> captions = m->getCaptions();
         QCOMPARE(captions.size(), 4);
         for (int i = 0; i < captions.size(); ++i) {
-            QCOMPARE(captions.at(i)->index, i + 1);
-            QCOMPARE(captions.at(i)->style, QStringLiteral("Default"));
-            QCOMPARE(captions.at(i)->captionEdit->fontSize, 18);
-            QCOMPARE(captions.at(i)->captionEdit->text, captions.at(i)->text);
+            const CaptionInfo* c = captions.at(i);
+            QCOMPARE((QVariantList{c->index, c->style, c->captionEdit->fontSize, c->captionEdit->text}),
+                     (QVariantList{i + 1, "Default", 18, c->text}));
             QVERIFY(captions.at(i)->isCheck && captions.at(i)->isShow);
         }
         // Back-to-back captions are kept apart; the last one and a real gap are not touched.
@@ -232,8 +228,7 @@ private slots:
                      + QStringLiteral("Dialogue: 0,0:0:1.0,0:0:2.0,Default,,0,0,0,,{\\fs24\\bord2\\shad0\\pos(100,150)}first, edited\n"
                                       "Dialogue: 0,0:0:3.0,0:0:4.0,Default,,0,0,0,,second\n"
                                       "Dialogue: 0,0:0:5.0,0:0:6.0,Default,,0,0,0,,\n"));
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0).at(0).toString(), AppConfig::UPDATE_CAPTION);
+        QVERIFY(spy.count() == 1 && spy.at(0).at(0).toString() == AppConfig::UPDATE_CAPTION);
         QCOMPARE(spy.at(0).at(1).toString(), m->getTempAssFilePath());
 
         // A second edit replaces the first entry instead of piling up.
@@ -300,8 +295,7 @@ private slots:
         QCOMPARE(readText(m->getTempAssFilePath()), expected);
         QCOMPARE(first->initialText, QStringLiteral("nought"));
         QCOMPARE(first->line, QStringLiteral("Dialogue: 0,0:00:00.00,0:00:01.00,Default,,0,0,0,,nought"));
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(spy.at(0).at(0).toString(), AppConfig::UPDATE_CAPTION);
+        QVERIFY(spy.count() == 1 && spy.at(0).at(0).toString() == AppConfig::UPDATE_CAPTION);
 
         // The stored line was updated, so a second edit finds it again.
         first->text = QStringLiteral("zero, again");
@@ -356,9 +350,7 @@ private slots:
             return;
         }
         QVERIFY(inserted);
-        QCOMPARE(inserted->start, start);
-        QCOMPARE(inserted->end, end);
-        QCOMPARE(inserted->style, QStringLiteral("Default"));
+        QCOMPARE((QStringList{inserted->start, inserted->end, inserted->style}), (QStringList{start, end, "Default"}));
         QCOMPARE(m->getCaptions().size(), existing.size() + 1);
         QCOMPARE(m->getCaptions().at(index - 1), inserted);
         for (int i = 0; i < m->getCaptions().size(); ++i) {
@@ -451,8 +443,7 @@ private slots:
         QVERIFY(m->saveCaptionFile(dir + QStringLiteral("/out.srt")));
         const QString srt = readText(dir + QStringLiteral("/out.srt"));
         QVERIFY(srt.startsWith(QStringLiteral("1\n00:00:01,230 --> 00:00:02,340\nFirst, with a comma\n\n")));
-        QVERIFY(srt.contains(QStringLiteral("01:02:03,450 --> 01:02:05,000")));
-        QVERIFY(!srt.contains(QLatin1Char('{')));
+        QVERIFY(srt.contains(QStringLiteral("01:02:03,450 --> 01:02:05,000")) && !srt.contains(QLatin1Char('{')));
         QCOMPARE(TestSupport::ffmpeg({"-i", dir + "/out.srt", dir + "/fromsrt.ass"}), 0);
         QCOMPARE(m->loadCaptionFile(dir + QStringLiteral("/fromsrt.ass")), 0);
         QCOMPARE(reloaded(), expected);
@@ -465,10 +456,8 @@ private slots:
         QCOMPARE(reloaded(), expected);
 
         // Failures say why and write nothing.
-        QVERIFY(!m->saveCaptionFile(dir + QStringLiteral("/out.txt")));
-        QVERIFY(m->lastError().contains(QStringLiteral("out.txt")));
-        QVERIFY(!m->saveCaptionFile(dir + QStringLiteral("/missing/out.srt")));
-        QVERIFY(m->lastError().contains(QStringLiteral("out.srt")));
+        QVERIFY(!m->saveCaptionFile(dir + QStringLiteral("/out.txt")) && m->lastError().contains("out.txt"));
+        QVERIFY(!m->saveCaptionFile(dir + QStringLiteral("/missing/out.srt")) && m->lastError().contains("out.srt"));
     }
 
 private:

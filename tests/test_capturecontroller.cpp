@@ -134,9 +134,8 @@ private slots:
             QVERIFY2(sinceAnswer.elapsed() >= CaptureController::kSettleMs - 5, "captured before the settle time");
         }
         QTRY_COMPARE(finished.count(), 1);
-        QCOMPARE(finished.first().first().toInt(), 2);
+        QVERIFY(finished.first().first().toInt() == 2 && m_player->captureType == 0);
         QCOMPARE(m_player->seeks, QList<double>({1.0, 3.0}));
-        QCOMPARE(m_player->captureType, 0);
         const QList<QVariant> frames = TestSupport::eventValues(bus, AppConfig::CAPTURE_IMAGE);
         QCOMPARE(frames.size(), 2);
         QCOMPARE(frames.at(1).value<AppConfig::CaptureData>().time, 3.0);
@@ -170,11 +169,9 @@ private slots:
         QSignalSpy failed(m_controller, &CaptureController::failed);
         QSignalSpy busy(m_controller, &CaptureController::busy);
         checked ? m_controller->startCaptureChecked() : m_controller->captureNow();
-        QCOMPARE(failed.count(), 1);
-        QCOMPARE(failed.first().first().toString(), title);
-        QCOMPARE(busy.count(), 0);
-        QCOMPARE(m_player->snapshots, 0);
-        QCOMPARE(m_player->captureType, -1);
+        QVERIFY(failed.count() == 1 && failed.first().first().toString() == title);
+        // Nothing started: no busy state, no capture type, no snapshot.
+        QCOMPARE((QList<int>{busy.count(), m_player->snapshots, m_player->captureType}), (QList<int>{0, 0, -1}));
     }
 
     void frameThatNeverShowsAndSeekNeverAnswered()
@@ -280,8 +277,7 @@ private slots:
         m_controller->setEditedCaption(captions->getCaptions().first());
         QCOMPARE(m_controller->queue().size(), 1);
         captions->clearCaptions();
-        QVERIFY(m_controller->queue().isEmpty());
-        QVERIFY(!m_controller->editedCaption());
+        QVERIFY(m_controller->queue().isEmpty() && !m_controller->editedCaption());
     }
 
 private:

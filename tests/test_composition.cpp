@@ -10,7 +10,6 @@
 #include "propertyitem.h"
 #include "testsupport.h"
 
-#include <QApplication>
 #include <QtTest>
 #include <functional>
 
@@ -270,7 +269,6 @@ void TestComposition::scaledToWidthMatchesQt_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("width");
-    QTest::newRow("half") << QSize(640, 360) << 320;
     QTest::newRow("odd factor") << QSize(333, 99) << 137;
     QTest::newRow("enlarged") << QSize(1280, 720) << 1700;
     QTest::newRow("tiny") << QSize(7, 5) << 3;

@@ -46,21 +46,16 @@ QString findCycle(const Graph& graph)
 {
     QHash<QString, int> state; // 1: on the path, 2: done
     QStringList path;
-    std::function<QString(const QString&)> visit = [&](const QString& node) -> QString {
+    std::function<QString(const QString&)> visit = [&](const QString& node) {
         state[node] = 1;
         path.append(node);
         for (const QString& next : graph.value(node)) {
-            if (!graph.contains(next)) {
-                continue;
-            }
-            if (state.value(next) == 1) {
-                return (path.mid(path.indexOf(next)) << next).join(QStringLiteral(" -> "));
-            }
-            if (state.value(next) == 0) {
-                const QString cycle = visit(next);
-                if (!cycle.isEmpty()) {
-                    return cycle;
-                }
+            const int seen = graph.contains(next) ? state.value(next) : 2;
+            const QString cycle = seen == 1   ? (path.mid(path.indexOf(next)) << next).join(QStringLiteral(" -> "))
+                                  : seen == 0 ? visit(next)
+                                              : QString();
+            if (!cycle.isEmpty()) {
+                return cycle;
             }
         }
         path.removeLast();
@@ -70,11 +65,9 @@ QString findCycle(const Graph& graph)
     QStringList nodes = graph.keys();
     nodes.sort();
     for (const QString& node : qAsConst(nodes)) {
-        if (state.value(node) == 0) {
-            const QString cycle = visit(node);
-            if (!cycle.isEmpty()) {
-                return cycle;
-            }
+        const QString cycle = state.value(node) == 0 ? visit(node) : QString();
+        if (!cycle.isEmpty()) {
+            return cycle;
         }
     }
     return QString();

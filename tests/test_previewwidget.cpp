@@ -11,7 +11,6 @@
 #include "settings.h"
 #include "testsupport.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -90,15 +89,14 @@ void TestPreviewWidget::sizeLabelZoomAndScaleFields()
     preview.setRadioType(PreviewWidget::Vertical);
     strip.addImage(data);
     strip.addImage(data);
-    QCOMPARE(preview.sizeLabel()->text(), QStringLiteral("1000x800"));
-    QCOMPARE(preview.propertyItem(PropertyItem::Width)->getText(), QStringLiteral("1000"));
-    QCOMPARE(preview.propertyItem(PropertyItem::Height)->getText(), QStringLiteral("800"));
+    QCOMPARE((QStringList{preview.sizeLabel()->text(), preview.propertyItem(PropertyItem::Width)->getText(),
+                          preview.propertyItem(PropertyItem::Height)->getText()}),
+             (QStringList{"1000x800", "1000", "800"}));
 
     // Fit shrinks the picture into the visible area; 100 % shows it as it is.
     ImageCanvas* canvas = preview.canvas();
     QVERIFY(canvas->zoomFactor() < 1.0);
-    QVERIFY(canvas->widget()->width() <= canvas->viewport()->width());
-    QVERIFY(canvas->widget()->height() <= canvas->viewport()->height());
+    QVERIFY(canvas->viewport()->rect().contains(QRect(QPoint(), canvas->widget()->size())));
     preview.changeZoomHandle(ImageCanvas::Actual);
     QCOMPARE(canvas->widget()->size(), QSize(1000, 800));
     preview.scrollToEnd();
@@ -115,8 +113,7 @@ void TestPreviewWidget::sizeLabelZoomAndScaleFields()
     QCOMPARE(preview.propertyItem(PropertyItem::Height)->getText(), QStringLiteral("200"));
 
     strip.clearButtonClickedHandle();
-    QVERIFY(preview.sizeLabel()->text().isEmpty());
-    QVERIFY(!preview.saveFileBar()->exportButton()->isEnabled());
+    QVERIFY(preview.sizeLabel()->text().isEmpty() && !preview.saveFileBar()->exportButton()->isEnabled());
     preview.propertyItem(PropertyItem::Scale)->setText(QStringLiteral("100"));
 }
 

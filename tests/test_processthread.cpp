@@ -35,8 +35,7 @@ private slots:
         QVERIFY(timer.elapsed() >= 1000);
         QCOMPARE(order.first(), QStringLiteral("start"));
         QCOMPARE(order.last(), QStringLiteral("stop"));
-        QVERIFY(order.contains(QStringLiteral("out:hello")));
-        QVERIFY(order.contains(QStringLiteral("err:oops")));
+        QVERIFY(order.contains(QStringLiteral("out:hello")) && order.contains(QStringLiteral("err:oops")));
         QVERIFY(!order.contains(QStringLiteral("failed")));
         QVERIFY(runner.processId() > 0);
 
@@ -60,13 +59,10 @@ private slots:
         runner.start();
         QVERIFY(runner.wait(10000));
         QCoreApplication::processEvents();
-        QCOMPARE(start.count(), 1);
-        QCOMPARE(stop.count(), 0);
-        QCOMPARE(failed.count(), 0);
+        QCOMPARE((QList<int>{start.count(), stop.count(), failed.count()}), (QList<int>{1, 0, 0}));
         // The child is still running until someone stops it.
         const qint64 pid = runner.processId();
-        QVERIFY(pid > 0);
-        QVERIFY(QFile::exists(QStringLiteral("/proc/%1").arg(pid)));
+        QVERIFY(pid > 0 && QFile::exists(QStringLiteral("/proc/%1").arg(pid)));
         runner.stopProcess();
         QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(QStringLiteral("/proc/%1/cmdline").arg(pid))
                                      || QFile(QStringLiteral("/proc/%1/cmdline").arg(pid)).size() == 0,

@@ -43,17 +43,14 @@ private slots:
     {
         ScreenManager* screens = ScreenManager::instance();
         screens->initWithDpi(72.0, 72.0, 1.0);
-        QCOMPARE(screens->getCurrentRate(), 1.0);
-        QCOMPARE(screens->getRealRate(), 0.75);
-        QCOMPARE(screens->getLastRate(), 1.0);
+        QCOMPARE((QList<double>{screens->getCurrentRate(), screens->getRealRate(), screens->getLastRate()}),
+                 (QList<double>{1.0, 0.75, 1.0}));
 
         screens->updateRateWithDpi(72.0);
-        QCOMPARE(screens->getCurrentRate(), 0.75);
-        QCOMPARE(screens->getLastRate(), 1.0);
+        QCOMPARE((QList<double>{screens->getCurrentRate(), screens->getLastRate()}), (QList<double>{0.75, 1.0}));
 
         screens->initWithDpi(144.0, 144.0, 2.0);
-        QCOMPARE(screens->getCurrentRate(), 1.5);
-        QCOMPARE(screens->getDeviceRatio(), 2.0);
+        QCOMPARE((QList<double>{screens->getCurrentRate(), screens->getDeviceRatio()}), (QList<double>{1.5, 2.0}));
         QCOMPARE(AppConfig::rate(15), 22);
         QCOMPARE(AppConfig::rate(QSize(1100, 741)), QSize(1650, 1111));
         QCOMPARE(AppConfig::rate(QRect(1, 3, 5, 7)), QRect(1, 4, 7, 10));

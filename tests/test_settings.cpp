@@ -64,8 +64,7 @@ private slots:
         QVERIFY(QDir(write).exists());
 
         const QString temp = g->getTempPath(AppConfig::APP_NAME);
-        QVERIFY(temp.endsWith(QStringLiteral("/Glimmer")));
-        QVERIFY(QDir(temp).exists());
+        QVERIFY(temp.endsWith(QStringLiteral("/Glimmer")) && QDir(temp).exists());
 
         const QString wanted = QDir::tempPath() + QStringLiteral("/a/b/c");
         QCOMPARE(g->getDirByCheck(wanted), wanted);
@@ -76,14 +75,13 @@ private slots:
 
     void formattingHelpers()
     {
-        QCOMPARE(GlobalManager::formatSecondToTime(3725.9), QStringLiteral("01:02:05"));
-        QCOMPARE(GlobalManager::formatSecondToTime(0.0), QStringLiteral("00:00:00"));
-        QCOMPARE(GlobalManager::formatSecondToTime(86400.0 + 61.0), QStringLiteral("00:01:01"));
+        QCOMPARE((QStringList{GlobalManager::formatSecondToTime(3725.9), GlobalManager::formatSecondToTime(0.0),
+                              GlobalManager::formatSecondToTime(86400.0 + 61.0)}),
+                 (QStringList{"01:02:05", "00:00:00", "00:01:01"}));
         QCOMPARE(GlobalManager::getFontSizeByTextAndWidth(QString(), 0), 40);
         const int narrow = GlobalManager::getFontSizeByTextAndWidth(QStringLiteral("Get the gleam"), 60);
         const int wide = GlobalManager::getFontSizeByTextAndWidth(QStringLiteral("Get the gleam"), 400);
-        QVERIFY(narrow < wide);
-        QVERIFY(narrow >= 1);
+        QVERIFY(narrow < wide && narrow >= 1);
         QCOMPARE(GlobalManager::getFontSizeByTextAndWidth(QStringLiteral("W"), -5), 1);
     }
 
@@ -123,12 +121,10 @@ private slots:
         const QDateTime before = QDateTime::currentDateTime();
         g->initLog();
         const QString path = g->getLogFilePath();
-        QVERIFY(path.contains(QStringLiteral("/logs/")));
-        QVERIFY(path.endsWith(QStringLiteral(".log")));
+        QVERIFY(path.contains(QStringLiteral("/logs/")) && path.endsWith(QStringLiteral(".log")));
         const QString stamp = path.section(QLatin1Char('/'), -1).chopped(4);
         const QDateTime started = QDateTime::fromString(stamp, QStringLiteral("yyyyMMddhhmmss"));
-        QVERIFY(started.isValid());
-        QVERIFY(qAbs(started.secsTo(before)) <= 2);
+        QVERIFY(started.isValid() && qAbs(started.secsTo(before)) <= 2);
 
         qDebug() << "first line";
         qWarning("%s", "second line with %s and %d inside");
@@ -141,8 +137,7 @@ private slots:
         QVERIFY(lines.size() >= 3);
         const QStringList tail = lines.mid(lines.size() - 3);
         QVERIFY2(tail.at(0).contains(QStringLiteral("]Debug: first line (")), qPrintable(tail.at(0)));
-        QVERIFY(tail.at(0).contains(QStringLiteral("test_settings.cpp:")));
-        QVERIFY(tail.at(0).contains(QStringLiteral("fileReceivesEveryLine")));
+        QVERIFY(tail.at(0).contains(QStringLiteral("test_settings.cpp:")) && tail.at(0).contains("fileReceivesEveryLine"));
         QVERIFY2(tail.at(1).contains(QStringLiteral("]Warning: second line with %s and %d inside (")),
                  qPrintable(tail.at(1)));
         QVERIFY(tail.at(2).contains(QStringLiteral("]Debug: unicode 字幕 ü (")));
@@ -164,8 +159,8 @@ private slots:
         QFile file(second);
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(file.readAll());
-        QVERIFY(text.indexOf(QStringLiteral("run one")) >= 0);
-        QVERIFY(text.indexOf(QStringLiteral("run one")) < text.indexOf(QStringLiteral("run two")));
+        const int one = text.indexOf(QStringLiteral("run one"));
+        QVERIFY(one >= 0 && one < text.indexOf(QStringLiteral("run two")));
     }
 };
 

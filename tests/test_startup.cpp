@@ -1,6 +1,5 @@
 #include "testsupport.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QtTest>
@@ -32,17 +31,7 @@ private:
         QCOMPARE(process.state(), QProcess::Running);
     }
 
-    int runSecond()
-    {
-        QProcess second;
-        second.start(program(), QStringList());
-        if (!second.waitForFinished(20000)) {
-            second.kill();
-            second.waitForFinished(2000);
-            return -100;
-        }
-        return second.exitCode();
-    }
+    int runSecond() { return TestSupport::run(program(), {}, 20000); }
 
     QByteArray m_output;
 

@@ -171,6 +171,48 @@ MainWindow* showMainWindow()
     return window;
 }
 
+PlayerPanel::PlayerPanel(const QSize& size)
+    : widget(new VideoPlayWidget())
+{
+    mpv()->setOption(QStringLiteral("ao"), QStringLiteral("null"));
+    widget->resize(size);
+    widget->show();
+    shown = QTest::qWaitForWindowExposed(widget.get());
+    QObject::connect(mpv(), &MpvWidget::playbackRestarted, widget.get(),
+                     [this](MpvWidget::RestartKind kind) { restarts.append(kind); });
+}
+
+PlayerPanel::~PlayerPanel() = default;
+
+MpvWidget* PlayerPanel::mpv() const
+{
+    return widget->getMpvWidget();
+}
+
+bool PlayerPanel::open(const QString& path, bool paused)
+{
+    restarts.clear();
+    if (!shown || !widget->openFile(path) || !waitFor(MpvWidget::RestartAfterLoad, 20000)) {
+        return false;
+    }
+    if (paused) {
+        widget->pause();
+    }
+    return true;
+}
+
+bool PlayerPanel::waitFor(MpvWidget::RestartKind kind, int timeoutMs)
+{
+    return QTest::qWaitFor([&] { return restarts.contains(kind); }, timeoutMs);
+}
+
+bool PlayerPanel::seekForCapture(double seconds)
+{
+    restarts.clear();
+    mpv()->seekToPositionForCapture(seconds);
+    return waitFor(MpvWidget::RestartAfterCaptureSeek);
+}
+
 bool openVideo(MainWindow* window, const QString& path)
 {
     const QString name = QFileInfo(path).fileName();

@@ -2,6 +2,7 @@
 #define TESTSUPPORT_H
 
 #include "appconfig.h"
+#include "mpvwidget.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -12,9 +13,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <tuple>
 
 class MainWindow;
+class VideoPlayWidget;
 
 // Helpers shared by the test suites: isolation from the user's files and
 // media generated with the real ffmpeg at test time.
@@ -53,6 +56,24 @@ QStringList captionTexts();
 
 // A main window shown at the start-up size with the application's style, without sound.
 MainWindow* showMainWindow();
+
+// A player panel of this size, shown without sound, that records libmpv's restarts.
+class PlayerPanel
+{
+public:
+    explicit PlayerPanel(const QSize& size = QSize(900, 640));
+    virtual ~PlayerPanel();
+    MpvWidget* mpv() const;
+    // Opens a video and waits until it plays (then pauses it when asked).
+    bool open(const QString& path, bool paused = false);
+    bool waitFor(MpvWidget::RestartKind kind, int timeoutMs = 10000);
+    // An exact seek and its restart.
+    bool seekForCapture(double seconds);
+
+    std::unique_ptr<VideoPlayWidget> widget;
+    bool shown = false;
+    QList<MpvWidget::RestartKind> restarts;
+};
 
 // Opens a video in the window; true once it is the current file.
 bool openVideo(MainWindow* window, const QString& path);
