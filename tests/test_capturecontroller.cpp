@@ -122,7 +122,9 @@ private slots:
         m_controller->startCaptureChecked();
         QCOMPARE(busy.count(), 1);
         QCOMPARE(m_player->seeks, QList<double>({1.0}));
-        // Nothing is taken before the seek is answered, however long it takes.
+        // Nothing is taken before the seek is answered, however long it takes,
+        // and a snapshot the pass did not ask for is no frame.
+        emit m_player->snapshotTaken(TestSupport::solidFrame(Qt::red, 64, 36));
         QVERIFY(!bus.wait(CaptureController::kSettleMs + 100));
         QCOMPARE(m_player->snapshots, 0);
 
