@@ -109,8 +109,6 @@ private:
 
     QPixmap m_groupPixmap;
     QSize m_compositeSize;
-    QTimer* m_refreshTimer = nullptr;
-    QElapsedTimer m_sinceRefresh;
     int m_radioType = Vertical;
     QMap<int, PropertyItem*> m_propertyItems;
     QButtonGroup* m_radioGroup = nullptr;
@@ -125,6 +123,8 @@ private:
     QProgressBar* m_progressBar = nullptr;
     ImageExporter* m_exporter = nullptr;
     ImageViewDialog* m_viewDialog = nullptr;
+    QTimer* m_refreshTimer = nullptr;
+    QElapsedTimer m_sinceRefresh;
 };
 
 #endif // PREVIEWWIDGET_H
