@@ -70,14 +70,23 @@ private slots:
             std::function<void()> prepare;
             std::function<bool()> done;
         };
+        // Paused and no longer moving: the position read twice, a poll apart, is the
+        // same (a pause or a frame step lands a moment after the key on a busy machine).
+        double last = -1.0;
+        const auto settled = [&]() {
+            const double now = mpv()->getCurrentSecond();
+            const bool same = now == last;
+            last = now;
+            return mpv()->getPlayStatus() == MpvWidget::Pause && same;
+        };
         const QList<Row> rows{
-            {QKeySequence(Qt::Key_Space), "pauses", [] {}, [this] { return mpv()->getPlayStatus() == MpvWidget::Pause; }},
+            {QKeySequence(Qt::Key_Space), "pauses", [] {}, settled},
+            {QKeySequence(Qt::Key_Right), "steps a frame forward", [&] { before = mpv()->getCurrentSecond(); },
+             [&] { return settled() && last > before; }},
+            {QKeySequence(Qt::Key_Left), "steps a frame back", [&] { before = mpv()->getCurrentSecond(); },
+             [&] { return settled() && last < before; }},
             {QKeySequence(Qt::Key_Space), "plays again", [] {},
              [this] { return mpv()->getPlayStatus() == MpvWidget::Play; }},
-            {QKeySequence(Qt::Key_Right), "steps a frame forward", [&] { before = mpv()->getCurrentSecond(); },
-             [&] { return mpv()->getPlayStatus() == MpvWidget::Pause && mpv()->getCurrentSecond() > before; }},
-            {QKeySequence(Qt::Key_Left), "steps a frame back", [&] { before = mpv()->getCurrentSecond(); },
-             [&] { return mpv()->getCurrentSecond() < before; }},
             {QKeySequence(QStringLiteral("Ctrl+Alt+S")), "captures the frame", [&] { events.clear(); },
              [&] { return TestSupport::hasEvent(events, AppConfig::CAPTURE_IMAGE); }},
             {QKeySequence(Qt::CTRL | Qt::Key_Slash), "stops", [] {},
