@@ -103,7 +103,7 @@ private slots:
             QWidget* target = QApplication::focusWidget() ? QApplication::focusWidget() : m_window;
             QTest::keySequence(target, row.keys);
             QTRY_VERIFY2_WITH_TIMEOUT(row.done(), qPrintable(row.keys.toString() + QStringLiteral(" ")
-                                                             + QLatin1String(row.effect)), 5000);
+                                                             + QLatin1String(row.effect)), 20000);
         }
     }
 };
