@@ -3,6 +3,7 @@
 #include "downloadmanager.h"
 #include "globalmanager.h"
 #include "licensemanager.h"
+#include "logcategories.h"
 #include "mainwindow.h"
 #include "screenmanager.h"
 #include "translatemanager.h"
@@ -74,9 +75,9 @@ int main(int argc, char* argv[])
     AppConfig::initResources();
 
     GlobalManager::instance()->initLog();
-    qDebug() << "sslLibraryBuildVersionString" << QSslSocket::sslLibraryBuildVersionString();
-    qDebug() << "supportsSsl" << (QSslSocket::supportsSsl() ? "true" : "false");
-    qDebug() << "sslLibraryVersionString" << QSslSocket::sslLibraryVersionString();
+    qCDebug(lcApp) << "sslLibraryBuildVersionString" << QSslSocket::sslLibraryBuildVersionString();
+    qCDebug(lcApp) << "supportsSsl" << (QSslSocket::supportsSsl() ? "true" : "false");
+    qCDebug(lcApp) << "sslLibraryVersionString" << QSslSocket::sslLibraryVersionString();
 
     ScreenManager::instance()->init(QGuiApplication::screenAt(QCursor::pos()));
     TranslateManager::instance()->init();
@@ -89,7 +90,7 @@ int main(int argc, char* argv[])
         window = new MainWindow(nullptr);
     } catch (const std::runtime_error& error) {
         // The player cannot run without libmpv: say so instead of vanishing.
-        qCritical() << "MainWindow:" << error.what();
+        qCCritical(lcApp) << "MainWindow:" << error.what();
         QMessageBox::critical(nullptr, AppConfig::APP_NAME,
                               QCoreApplication::translate("main", "The video player could not be started: %1")
                                   .arg(QString::fromLocal8Bit(error.what())));

@@ -1,6 +1,7 @@
 #include "captionfilereader.h"
 
 #include "captioninfo.h"
+#include "logcategories.h"
 #include "subtitleencoding.h"
 #include "subtitlefile.h"
 
@@ -60,7 +61,7 @@ CaptionFileContent CaptionFileReader::read(const QString& path, const AssReader:
         content.cancelled = true;
         break;
     case AssReader::TooManyEvents:
-        qDebug().noquote() << "Failed to open the file" << path << "(more than" << control.maxEvents << "events)";
+        qCDebug(lcCaptions).noquote() << "Failed to open the file" << path << "(more than" << control.maxEvents << "events)";
         content.error = tr("\"%1\" holds more than %2 captions. To keep memory in bounds, at most %2 captions "
                            "are loaded from one file: split it into parts.")
                             .arg(QFileInfo(path).fileName(), QString::number(control.maxEvents));

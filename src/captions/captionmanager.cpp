@@ -1,11 +1,12 @@
 #include "captionmanager.h"
 
 #include "appconfig.h"
-#include "globalmanager.h"
 #include "assreader.h"
-#include "captionfilereader.h"
 #include "asstime.h"
 #include "asswriter.h"
+#include "captionfilereader.h"
+#include "globalmanager.h"
+#include "logcategories.h"
 #include "speechreply.h"
 
 #include <QDebug>
@@ -88,7 +89,7 @@ QString CaptionManager::getAudioFilePath() const
         return m_audioFilePath;
     }
     const QFileInfo current = GlobalManager::instance()->getCurrentFile();
-    qDebug() << "getAudioFilePath:" << current.completeBaseName() << current.baseName();
+    qCDebug(lcCaptions) << "getAudioFilePath:" << current.completeBaseName() << current.baseName();
     return workingFilePath(QStringLiteral("mp3"));
 }
 
@@ -98,7 +99,7 @@ QString CaptionManager::getCaptionPath() const
         return m_captionPath;
     }
     const QFileInfo current = GlobalManager::instance()->getCurrentFile();
-    qDebug() << "getCaptionPath:" << current.completeBaseName() << current.baseName();
+    qCDebug(lcCaptions) << "getCaptionPath:" << current.completeBaseName() << current.baseName();
     return workingFilePath(QStringLiteral("txt"));
 }
 
@@ -195,7 +196,7 @@ void CaptionManager::setLastError(const QString& text, const QString& forPath)
     m_lastError = text;
     m_errorPath = forPath;
     if (!text.isEmpty()) {
-        qWarning().noquote() << "caption load error:" << text;
+        qCWarning(lcCaptions).noquote() << "caption load error:" << text;
     }
 }
 
@@ -204,7 +205,7 @@ void CaptionManager::reportLoadError(const QString& text)
     // A conversion failure already reported is the more useful message.
     if (m_lastError.isEmpty()) {
         m_lastError = text;
-        qWarning().noquote() << "caption load error:" << text;
+        qCWarning(lcCaptions).noquote() << "caption load error:" << text;
     }
 }
 
@@ -234,7 +235,7 @@ bool CaptionManager::openWorkingFile(QFile& file, const char* failureLog) const
 {
     file.setFileName(getTempAssFilePath());
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)) {
-        qDebug().noquote() << failureLog << file.fileName() << file.errorString();
+        qCDebug(lcCaptions).noquote() << failureLog << file.fileName() << file.errorString();
         return false;
     }
     return true;
@@ -280,7 +281,7 @@ bool CaptionManager::createCaptions(const QByteArray& json, bool save)
     AssWriter::writeHeader(out);
     if (m_captions.isEmpty()) {
         out << styleLine << '\n';
-        qDebug().noquote() << "create caption style with empty caption:" << styleLine;
+        qCDebug(lcCaptions).noquote() << "create caption style with empty caption:" << styleLine;
     } else {
         QSet<QString> written;
         for (const CaptionInfo* info : qAsConst(m_captions)) {
@@ -290,7 +291,7 @@ bool CaptionManager::createCaptions(const QByteArray& json, bool save)
             const QString line = AssWriter::formatStyleLine(*info->captionStyle);
             out << line << '\n';
             written.insert(info->style);
-            qDebug().noquote() << "create caption style:" << line;
+            qCDebug(lcCaptions).noquote() << "create caption style:" << line;
         }
     }
     AssWriter::writeEventsHeader(out);
@@ -328,7 +329,7 @@ int CaptionManager::finishLoad(const QString& path, CaptionFileContent content)
     clearCaptions();
     m_fileLines.clear();
     if (content.path.isEmpty()) {
-        qDebug() << "Failed to open the ass file, filePath is empty.";
+        qCDebug(lcCaptions) << "Failed to open the ass file, filePath is empty.";
         reportLoadError(tr("No subtitle file was chosen."));
         return -1;
     }
@@ -383,19 +384,19 @@ void CaptionManager::changeCaption(CaptionInfo* info)
             text.replace(info->initialText, info->text);
         }
         const QString newLine = raw.left(textStart) + text;
-        qDebug().noquote() << "replace:" << info->initialText << info->text << newLine << info->line;
+        qCDebug(lcCaptions).noquote() << "replace:" << info->initialText << info->text << newLine << info->line;
         m_fileLines[i] = newLine;
         info->initialText = info->text;
         info->line = newLine.trimmed();
         break;
     }
-    qDebug() << "changeCaption lines:" << m_fileLines.size();
+    qCDebug(lcCaptions) << "changeCaption lines:" << m_fileLines.size();
 
     QFile file;
     if (m_fileLines.isEmpty()) {
         // Nothing loaded: an empty rewrite would wipe the captions on screen.
         file.setFileName(getTempAssFilePath());
-        qDebug() << "changeCaption: no loaded file lines, working file left as is";
+        qCDebug(lcCaptions) << "changeCaption: no loaded file lines, working file left as is";
     } else if (openWorkingFile(file, "Failed to open the output file for writing")) {
         QTextStream out(&file);
         out.setCodec("UTF-8");
@@ -473,7 +474,7 @@ void CaptionManager::writeRegenerated(QTextStream& out, const QString& allBlock,
     QSet<QString> written;
     for (const CaptionStyle* style : qAsConst(m_styles)) {
         const QString line = AssWriter::formatStyleLine(*style);
-        qDebug().noquote() << "style:" << line;
+        qCDebug(lcCaptions).noquote() << "style:" << line;
         out << line << '\n';
         written.insert(style->name);
     }
@@ -487,7 +488,7 @@ void CaptionManager::writeRegenerated(QTextStream& out, const QString& allBlock,
             continue;
         }
         const QString line = AssWriter::formatStyleLine(*caption->captionStyle);
-        qDebug().noquote() << "style:" << line;
+        qCDebug(lcCaptions).noquote() << "style:" << line;
         out << line << '\n';
     }
 
@@ -496,7 +497,7 @@ void CaptionManager::writeRegenerated(QTextStream& out, const QString& allBlock,
         QString override = allBlock;
         if (allBlock.isEmpty() && !caption->editMarks.isEmpty()) {
             override = caption->editMarks.constFirst().first;
-            qDebug().noquote() << "subtitle->" << override << caption->text;
+            qCDebug(lcCaptions).noquote() << "subtitle->" << override << caption->text;
         }
         const QString text = caption->isShow || withHidden ? AssWriter::eventText(caption->text) : QString();
         out << AssWriter::editedEventLine(*caption, text, override) << '\n';
@@ -580,7 +581,7 @@ bool CaptionManager::saveCaptionFile(const QString& path)
         m_lastError = tr("\"%1\" could not be written: %2").arg(info.fileName(), file.errorString());
         return false;
     }
-    qDebug().noquote() << "captions saved:" << path << m_captions.size();
+    qCDebug(lcCaptions).noquote() << "captions saved:" << path << m_captions.size();
     return true;
 }
 

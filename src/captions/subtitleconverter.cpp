@@ -4,6 +4,7 @@
 #include "apppaths.h"
 #include "filemanager.h"
 #include "globalmanager.h"
+#include "logcategories.h"
 #include "subtitleencoding.h"
 #include "subtitlefile.h"
 
@@ -39,7 +40,7 @@ QString SubtitleConverter::srtToAss(const QString& srtPath, QString* error, int*
                                     const std::function<bool()>& stop)
 {
     const QString output = outputPath(srtPath);
-    qDebug() << "srtToAss->" << output;
+    qCDebug(lcCaptions) << "srtToAss->" << output;
     const QString name = QFileInfo(srtPath).fileName();
     auto fail = [error](const QString& text) {
         if (error) {
@@ -64,7 +65,7 @@ QString SubtitleConverter::srtToAss(const QString& srtPath, QString* error, int*
     }
     QTemporaryFile utf8(AppPaths::tempPath(AppConfig::APP_NAME) + QStringLiteral("/srt-XXXXXX.srt"));
     if (!utf8.open() || utf8.write(text.toUtf8()) < 0 || !utf8.flush()) {
-        qDebug() << "srtToAss: cannot write the UTF-8 copy" << utf8.fileName() << utf8.errorString();
+        qCDebug(lcCaptions) << "srtToAss: cannot write the UTF-8 copy" << utf8.fileName() << utf8.errorString();
         fail(tr("The SRT file \"%1\" could not be converted.").arg(name));
         return QString();
     }
@@ -76,7 +77,7 @@ QString SubtitleConverter::srtToAss(const QString& srtPath, QString* error, int*
     process.setProcessChannelMode(QProcess::MergedChannels);
     process.start(program, arguments);
     if (!process.waitForStarted(10000)) {
-        qDebug() << "Error: FFmpeg process failed to start:" << program << process.errorString();
+        qCDebug(lcCaptions) << "Error: FFmpeg process failed to start:" << program << process.errorString();
         fail(tr("The SRT file \"%1\" could not be converted: ffmpeg was not found.").arg(name));
         return QString();
     }
@@ -92,7 +93,7 @@ QString SubtitleConverter::srtToAss(const QString& srtPath, QString* error, int*
             return QString();
         }
         if (clock.elapsed() > 30000) {
-            qDebug() << "Error: FFmpeg process failed to finish.";
+            qCDebug(lcCaptions) << "Error: FFmpeg process failed to finish.";
             process.kill();
             process.waitForFinished(1000);
             fail(tr("The SRT file \"%1\" could not be converted: ffmpeg did not finish in time.").arg(name));
@@ -102,18 +103,18 @@ QString SubtitleConverter::srtToAss(const QString& srtPath, QString* error, int*
     log += process.readAll();
     const bool failed = process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0;
     if (failed) {
-        qDebug() << "srtToAss: ffmpeg exit code" << process.exitCode()
+        qCDebug(lcCaptions) << "srtToAss: ffmpeg exit code" << process.exitCode()
                  << QString::fromLocal8Bit(log.right(2000));
     }
     if (!QFileInfo::exists(output)) {
-        qDebug() << "Error: Failed to convert SRT to ASS.";
+        qCDebug(lcCaptions) << "Error: Failed to convert SRT to ASS.";
         fail(tr("The SRT file \"%1\" could not be converted.").arg(name));
         return QString();
     }
     if (failed) {
         fail(tr("The SRT file \"%1\" could not be converted.").arg(name));
     }
-    qDebug() << "SRT to ASS conversion completed successfully.";
+    qCDebug(lcCaptions) << "SRT to ASS conversion completed successfully.";
     QString content = GlobalManager::readFileContent(output);
     content.remove(QRegularExpression(QStringLiteral("\\{\\\\an[1-9]\\}")));
 
@@ -135,7 +136,7 @@ QString SubtitleConverter::srtToAss(const QString& srtPath, QString* error, int*
     if (events >= 0) {
         content = header + content.mid(events);
     } else {
-        qDebug() << "[Events] not found in the string.";
+        qCDebug(lcCaptions) << "[Events] not found in the string.";
     }
     GlobalManager::writeFileContent(output, content);
     return output;

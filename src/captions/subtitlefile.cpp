@@ -1,5 +1,7 @@
 #include "subtitlefile.h"
 
+#include "logcategories.h"
+
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -14,7 +16,7 @@ bool SubtitleFile::read(const QString& path, QByteArray* bytes, QString* error)
 {
     const QString name = QFileInfo(path).fileName();
     auto fail = [&](const QString& text, const QString& detail) {
-        qDebug().noquote() << "Failed to open the file" << path << detail;
+        qCDebug(lcCaptions).noquote() << "Failed to open the file" << path << detail;
         if (error) {
             *error = text;
         }

@@ -1,6 +1,7 @@
 #include "apppaths.h"
 
 #include "appconfig.h"
+#include "logcategories.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -26,11 +27,11 @@ QString AppPaths::tempPath(const QString& name)
 {
     const QStringList locations = QStandardPaths::standardLocations(QStandardPaths::TempLocation);
     if (locations.isEmpty()) {
-        qWarning() << "Unable to retrieve temporary directory path.";
+        qCWarning(lcCore) << "Unable to retrieve temporary directory path.";
     }
     const QString base = locations.isEmpty() ? QString() : locations.first();
     const QString path = base + QLatin1Char('/') + name;
-    qDebug() << "Temporary directory path:" << path;
+    qCDebug(lcCore) << "Temporary directory path:" << path;
     QDir().mkpath(path);
     return path;
 }

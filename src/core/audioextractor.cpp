@@ -1,6 +1,7 @@
 #include "audioextractor.h"
 
 #include "filemanager.h"
+#include "logcategories.h"
 #include "processthread.h"
 
 #include <QDebug>
@@ -17,25 +18,25 @@ AudioExtractor::AudioExtractor(QObject* parent)
     , m_thread(new ProcessThread(this))
 {
     connect(m_thread, &ProcessThread::processOutput, this, [](const QString& text) {
-        qDebug() << "m_mp3_thread->processOutput" << text;
+        qCDebug(lcCore) << "m_mp3_thread->processOutput" << text;
     });
     connect(m_thread, &ProcessThread::processStart, this, [this]() {
-        qDebug() << "m_mp3_thread->processStart";
+        qCDebug(lcCore) << "m_mp3_thread->processStart";
         emit started();
     });
     connect(m_thread, &ProcessThread::processStop, this, [this]() {
-        qDebug() << "m_mp3_thread->processStop" << (m_stopRequested ? "true" : "false");
+        qCDebug(lcCore) << "m_mp3_thread->processStop" << (m_stopRequested ? "true" : "false");
         if (!m_stopRequested) {
             emit finished();
         }
     });
     connect(m_thread, &ProcessThread::processError, this, [](const QString&) {
-        qDebug() << "m_mp3_thread->processStop";
+        qCDebug(lcCore) << "m_mp3_thread->processStop";
     });
     // ffmpeg that cannot be started at all ends the extraction too: the upload
     // step then finds no file and reports it, so the user is never left waiting.
     connect(m_thread, &ProcessThread::processFailed, this, [this]() {
-        qDebug() << "m_mp3_thread->processFailed";
+        qCDebug(lcCore) << "m_mp3_thread->processFailed";
         if (!m_stopRequested) {
             emit finished();
         }

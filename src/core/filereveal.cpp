@@ -1,5 +1,7 @@
 #include "filereveal.h"
 
+#include "logcategories.h"
+
 #include <QCoreApplication>
 #include <QDebug>
 #include <QDesktopServices>
@@ -34,14 +36,14 @@ void FileReveal::reveal(const QStringList& paths)
         file.write(command.toUtf8());
         file.close();
     }
-    qDebug() << "openfileselected:" << command;
+    qCDebug(lcCore) << "openfileselected:" << command;
     QProcess::startDetached(QStringLiteral("/bin/sh"), {script});
 #else
     QStringList uris;
     for (const QString& path : paths) {
         uris.append(QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded));
     }
-    qDebug() << "openfileselected:" << uris;
+    qCDebug(lcCore) << "openfileselected:" << uris;
     const QUrl folder = QUrl::fromLocalFile(QFileInfo(paths.first()).absolutePath());
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
@@ -57,7 +59,7 @@ void FileReveal::reveal(const QStringList& paths)
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, [folder](QDBusPendingCallWatcher* w) {
         if (w->isError()) {
             // No file manager service: open the folder itself, quietly if that fails too.
-            qDebug() << "openfileselected: file manager unavailable:" << w->error().message();
+            qCDebug(lcCore) << "openfileselected: file manager unavailable:" << w->error().message();
             QDesktopServices::openUrl(folder);
         }
         w->deleteLater();

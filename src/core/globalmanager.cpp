@@ -4,6 +4,7 @@
 #include "apppaths.h"
 #include "audioextractor.h"
 #include "filereveal.h"
+#include "logcategories.h"
 #include "logger.h"
 #include "outputfiles.h"
 #include "picturewriter.h"
@@ -104,7 +105,7 @@ QString GlobalManager::readFileContent(const QString& path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        qDebug() << "readFileContent failed:" << path << file.errorString();
+        qCDebug(lcCore) << "readFileContent failed:" << path << file.errorString();
         return QString();
     }
     return QString::fromUtf8(file.readAll());
@@ -114,7 +115,7 @@ bool GlobalManager::writeFileContent(const QString& path, const QString& content
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
-        qDebug() << "writeFileContent failed:" << path << file.errorString();
+        qCDebug(lcCore) << "writeFileContent failed:" << path << file.errorString();
         return false;
     }
     const QByteArray bytes = content.toUtf8();
@@ -170,7 +171,7 @@ void GlobalManager::httpRequestFinished(QString key, const QJsonObject& object, 
 void GlobalManager::httpRequestError(QString key, const QJsonObject& object, const QByteArray& data)
 {
     Q_UNUSED(data)
-    qDebug() << "requestError:" << key;
+    qCDebug(lcCore) << "requestError:" << key;
     if (key == AppConfig::KEY_REGISTER) {
         emitEvent(AppConfig::REGISTER_ERROR, object.value(QStringLiteral("message")).toString());
     }
@@ -202,7 +203,7 @@ QString GlobalManager::saveImage(const QImage& image, const QString& dir, const 
 
     QString reason;
     if (!PictureWriter::write(image, path, format, &reason)) {
-        qWarning() << "saveImage failed:" << path << reason;
+        qCWarning(lcCore) << "saveImage failed:" << path << reason;
         if (error) {
             *error = reason;
         }

@@ -1,5 +1,7 @@
 #include "logger.h"
 
+#include "logcategories.h"
+
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
@@ -38,10 +40,10 @@ QString Logger::logDir()
 {
     const QString dir = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
                         + QStringLiteral("/logs/");
-    qDebug() << "getLogDir:" << dir;
+    qCDebug(lcCore) << "getLogDir:" << dir;
     QDir d(dir);
     if (!d.exists() && !d.mkpath(dir)) {
-        qWarning() << "Failed to create directory.";
+        qCWarning(lcCore) << "Failed to create directory.";
         return QString();
     }
     return dir;

@@ -1,5 +1,7 @@
 #include "outputfiles.h"
 
+#include "logcategories.h"
+
 #include <QDebug>
 #include <QDir>
 #include <QFile>
@@ -34,7 +36,7 @@ QStringList OutputFiles::moveInto(const QStringList& tempPaths, const QString& d
     QStringList collected;
     for (const QString& temp : tempPaths) {
         if (!QFileInfo::exists(temp)) {
-            qWarning() << "selectOutPutFilesByTempList: missing" << temp;
+            qCWarning(lcCore) << "selectOutPutFilesByTempList: missing" << temp;
             if (errors) {
                 errors->append(tr("%1: the file has vanished before it could be moved to the "
                                   "output folder.")
@@ -47,7 +49,7 @@ QStringList OutputFiles::moveInto(const QStringList& tempPaths, const QString& d
             target = moveTo(temp, fallback);
         }
         if (target.isEmpty()) {
-            qWarning() << "selectOutPutFilesByTempList: move failed" << temp << dest;
+            qCWarning(lcCore) << "selectOutPutFilesByTempList: move failed" << temp << dest;
             if (errors) {
                 errors->append(tr("%1 could not be moved to the output folder %2; it was kept at %3.")
                                    .arg(QFileInfo(temp).fileName(), QDir::toNativeSeparators(dest),

@@ -1,5 +1,7 @@
 #include "processthread.h"
 
+#include "logcategories.h"
+
 #include <QDeadlineTimer>
 #include <QDebug>
 #include <QMetaEnum>
@@ -70,21 +72,21 @@ void ProcessThread::stopProcess()
 void ProcessThread::onReadyReadStandardOutput()
 {
     const QString text = textUpToNul(m_process->readAllStandardOutput());
-    qDebug() << "onReadyReadStandardOutput" << text;
+    qCDebug(lcCore) << "onReadyReadStandardOutput" << text;
     emit processOutput(text);
 }
 
 void ProcessThread::onReadyReadStandardError()
 {
     const QString text = textUpToNul(m_process->readAllStandardError());
-    qDebug() << "Process Error:" << text;
+    qCDebug(lcCore) << "Process Error:" << text;
     emit processError(text);
 }
 
 void ProcessThread::onErrorOccurred(QProcess::ProcessError error)
 {
     const QMetaEnum e = QMetaEnum::fromType<QProcess::ProcessError>();
-    qDebug() << "Process errorOccurred:" << e.valueToKey(error);
+    qCDebug(lcCore) << "Process errorOccurred:" << e.valueToKey(error);
 }
 
 void ProcessThread::run()
@@ -92,18 +94,18 @@ void ProcessThread::run()
     m_processId = 0;
     m_stopRequested.storeRelease(0);
     m_process->start(m_program, m_arguments, m_openMode);
-    qDebug() << "Rum command" << m_process->workingDirectory() << m_program << m_arguments;
+    qCDebug(lcCore) << "Rum command" << m_process->workingDirectory() << m_program << m_arguments;
     if (!m_process->waitForStarted(30000)) {
-        qDebug().noquote() << tr("Failed to start process %1. exit code %2")
+        qCDebug(lcCore).noquote() << tr("Failed to start process %1. exit code %2")
                                   .arg(QString::number(m_processId), QString::number(m_process->exitCode()));
         emit processFailed();
         return;
     }
     m_processId = m_process->processId();
-    qDebug().noquote() << QStringLiteral("Process %1 has been started.").arg(m_processId);
+    qCDebug(lcCore).noquote() << QStringLiteral("Process %1 has been started.").arg(m_processId);
     emit processStart();
     if (waitForEnd()) {
-        qDebug().noquote() << QStringLiteral("Process %1 has been finish.").arg(m_processId);
+        qCDebug(lcCore).noquote() << QStringLiteral("Process %1 has been finish.").arg(m_processId);
         // Let the last output and error signals reach listeners first.
         QThread::msleep(1000);
         emit processStop();

@@ -1,5 +1,7 @@
 #include "screenmanager.h"
 
+#include "logcategories.h"
+
 #include <QDebug>
 #include <QGuiApplication>
 #include <QScreen>
@@ -44,11 +46,11 @@ void ScreenManager::initWithDpi(double logicalDpi, double physicalDpi, double de
 
     const QString version = QSysInfo::productVersion();
     m_isMac11 = versionAtLeast11(version);
-    qDebug() << "OS Version:" << version << (m_isMac11 ? "true" : "false");
+    qCDebug(lcCore) << "OS Version:" << version << (m_isMac11 ? "true" : "false");
 
     m_deviceRatio = deviceRatio;
-    qDebug() << "screen init" << m_currentRate << m_lastRate << m_realRate;
-    qDebug() << "screen dip" << logicalDpi << physicalDpi << m_deviceRatio;
+    qCDebug(lcCore) << "screen init" << m_currentRate << m_lastRate << m_realRate;
+    qCDebug(lcCore) << "screen dip" << logicalDpi << physicalDpi << m_deviceRatio;
 }
 
 void ScreenManager::updateRate(QScreen* screen)
@@ -147,10 +149,10 @@ void ScreenManager::updateWidgetInNewScreen(QWidget* widget)
     const QRect n(scale(g.x()), scale(g.y()), scale(g.width()), scale(g.height()));
     widget->setGeometry(n);
     widget->adjustSize();
-    qDebug().noquote() << QStringLiteral("name=%1, x=%2, y=%3, width=%4, height=%5")
+    qCDebug(lcCore).noquote() << QStringLiteral("name=%1, x=%2, y=%3, width=%4, height=%5")
                               .arg(widget->objectName(), QString::number(g.x()), QString::number(g.y()),
                                    QString::number(g.width()), QString::number(g.height()));
-    qDebug().noquote() << QStringLiteral("name=%1, x=%2, y=%3, width=%4, height=%5")
+    qCDebug(lcCore).noquote() << QStringLiteral("name=%1, x=%2, y=%3, width=%4, height=%5")
                               .arg(widget->objectName(), QString::number(n.x()), QString::number(n.y()),
                                    QString::number(n.width()), QString::number(n.height()));
 }

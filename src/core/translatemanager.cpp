@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "logcategories.h"
 #include "settings.h"
 
 #include <QDebug>
@@ -50,7 +51,7 @@ void TranslateManager::init()
 
     const QLocale locale = QLocale::system();
     const int stored = Settings::instance()->value(AppConfig::APP_LANG).toInt();
-    qDebug() << "Current system language: " << QLocale::languageToString(locale.language())
+    qCDebug(lcCore) << "Current system language: " << QLocale::languageToString(locale.language())
              << locale.name() << stored;
     m_langType = chooseLangType(locale.name(), stored);
 }
@@ -64,7 +65,7 @@ int TranslateManager::chooseLangType(const QString& localeName, int storedType)
     for (int i = 0; i < kLanguageCount; ++i) {
         const QString shortName = getShortNameByType(static_cast<LanguageType>(i));
         if (localeName.contains(shortName, Qt::CaseSensitive)) {
-            qDebug() << "short" << shortName << localeName;
+            qCDebug(lcCore) << "short" << shortName << localeName;
             return i;
         }
     }

@@ -1,5 +1,7 @@
 #include "imagecomposer.h"
 
+#include "logcategories.h"
+
 #include <QDebug>
 #include <QMutex>
 #include <QMutexLocker>
@@ -129,18 +131,18 @@ ImageComposer::ImageComposer(int layoutType, int xSpace, int ySpace, int column,
         const int ys = qMax(Y, 0);
         const int k = n < c ? n : c;
         m_canvasSize = QSize(qMin(W * c, W * n) + (k - 1) * xs, ((n - 1) / c) * (H + ys) + H);
-        qDebug() << "getGroupPixmap Grid" << m_canvasSize.width() << m_canvasSize.height() << W << H << (k - 1) * xs;
+        qCDebug(lcImages) << "getGroupPixmap Grid" << m_canvasSize.width() << m_canvasSize.height() << W << H << (k - 1) * xs;
         break;
     }
     case Horizontal:
         m_band = W + qMin(X, 0);
         m_canvasSize = QSize((n - 1) * m_band + W + (n - 1) * qMax(X, 0), H);
-        qDebug() << "other image's width:" << m_band << "image total width" << m_canvasSize.width();
+        qCDebug(lcImages) << "other image's width:" << m_band << "image total width" << m_canvasSize.width();
         break;
     default:
         m_band = H + qMin(Y, 0);
         m_canvasSize = QSize(W, (n - 1) * m_band + H + (n - 1) * qMax(Y, 0));
-        qDebug() << "other image's height:" << m_band << "image total height" << m_canvasSize.height();
+        qCDebug(lcImages) << "other image's height:" << m_band << "image total height" << m_canvasSize.height();
         break;
     }
 }
@@ -254,7 +256,7 @@ QImage ImageComposer::compose(const QList<QImage>& frames, int layoutType, int x
     ImageComposer composer(layoutType, xSpace, ySpace, column, frames.size(), frames.first().size());
     if (!composer.begin()) {
         if (!composer.canvasSize().isEmpty()) {
-            qWarning() << "getGroupPixmap: canvas too large" << composer.canvasSize();
+            qCWarning(lcImages) << "getGroupPixmap: canvas too large" << composer.canvasSize();
         }
         return QImage();
     }

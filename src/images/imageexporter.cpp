@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "logcategories.h"
 #include "saveimagethread.h"
 #include "settings.h"
 
@@ -102,7 +103,7 @@ void ImageExporter::moveAndReveal()
         QDir().rmdir(temporary);
     }
     if (!errors.isEmpty()) {
-        qWarning() << "export failures:" << errors;
+        qCWarning(lcImages) << "export failures:" << errors;
     }
     emit exportFinished(files, errors);
 }

@@ -1,6 +1,7 @@
 #include "imageitem.h"
 
 #include "appconfig.h"
+#include "logcategories.h"
 #include "translatemanager.h"
 
 #include <QCheckBox>
@@ -107,7 +108,7 @@ bool ImageItem::isSelect() const
 void ImageItem::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    qDebug() << "checkbox->" << width() << m_checkBox->width();
+    qCDebug(lcImages) << "checkbox->" << width() << m_checkBox->width();
 }
 
 bool ImageItem::eventFilter(QObject* watched, QEvent* event)

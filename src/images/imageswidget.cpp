@@ -5,6 +5,7 @@
 #include "imageexporter.h"
 #include "imageitem.h"
 #include "imagelistviewdialog.h"
+#include "logcategories.h"
 #include "saveimagethread.h"
 
 #include <QCheckBox>
@@ -117,7 +118,7 @@ void ImagesWidget::addImage(const QVariant& value)
 
 void ImagesWidget::addImage(const AppConfig::CaptureData& data)
 {
-    qDebug() << "addImage:" << data.time << data.frame;
+    qCDebug(lcImages) << "addImage:" << data.time << data.frame;
     ImageItem* item = createItem(data, true);
     // Before the trailing stretch, so the strip stays packed to the left.
     m_stripLayout->insertWidget(m_stripLayout->count() - 1, item);
@@ -141,7 +142,7 @@ ImageItem* ImagesWidget::createItem(const AppConfig::CaptureData& data, bool sel
     const int width = AppConfig::rate(150);
     const int pixmapWidth = data.pixmap.width();
     if (pixmapWidth <= 0) {
-        qWarning() << "addImage: empty frame";
+        qCWarning(lcImages) << "addImage: empty frame";
     }
     const int height = pixmapWidth > 0
                            ? static_cast<int>(data.pixmap.height() * (width / static_cast<float>(pixmapWidth)))

@@ -7,6 +7,7 @@
 #include "imageexporter.h"
 #include "imageitem.h"
 #include "imageviewdialog.h"
+#include "logcategories.h"
 #include "picturewriter.h"
 #include "propertyitem.h"
 #include "savefilebar.h"
@@ -122,7 +123,7 @@ PreviewWidget::PreviewWidget(QWidget* parent)
     connect(m_exporter, &ImageExporter::showRegisterGuide, this, &PreviewWidget::showRegisterGuide);
     connect(m_exporter, &ImageExporter::exportFinished, this,
             [this](const QStringList& files, const QStringList& errors) {
-                qDebug() << "export image:" << files;
+                qCDebug(lcImages) << "export image:" << files;
                 emit exportFinishedSignal(files, errors);
             });
     m_refreshTimer->setSingleShot(true);
@@ -328,7 +329,7 @@ QPixmap PreviewWidget::getGroupPixmap()
     const int X = propertyValue(PropertyItem::XSpace);
     const int Y = propertyValue(PropertyItem::YSpace);
     const int M = propertyValue(PropertyItem::Column);
-    qDebug() << "getGroupPixmap data" << S << X << Y;
+    qCDebug(lcImages) << "getGroupPixmap data" << S << X << Y;
 
     const QList<ImageItem*> items = GlobalManager::instance()->selectedImages();
     if (items.isEmpty()) {

@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "logcategories.h"
 #include "settings.h"
 
 #include <QDebug>
@@ -84,6 +85,6 @@ void SaveImageThread::run()
         }
         emit saveProgress(i, total);
     }
-    qDebug() << "SaveImageThread finished:" << result.size() << "of" << total;
+    qCDebug(lcImages) << "SaveImageThread finished:" << result.size() << "of" << total;
     emit saveFinished(result);
 }

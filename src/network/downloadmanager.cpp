@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "filemanager.h"
 #include "globalmanager.h"
+#include "logcategories.h"
 #include "md5calculator.h"
 #include "processthread.h"
 #include "settings.h"
@@ -95,14 +96,14 @@ void DownloadManager::downloadLastVersion(QString tag, int retry)
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                          QNetworkRequest::NoLessSafeRedirectPolicy);
     QNetworkReply* reply = m_network->get(request);
-    qDebug() << "downloadLastVersion:" << url << tag;
+    qCDebug(lcNetwork) << "downloadLastVersion:" << url << tag;
     const QString stateText = url + QLatin1Char(',') + tag;
     emit downloadLastVersionStateChanged(DownloadStart, stateText, QByteArray());
 
     connect(reply, &QNetworkReply::finished, this, [this, reply, tag, retry, stateText]() {
         reply->deleteLater();
         if (reply->error() == QNetworkReply::NoError) {
-            qDebug() << "downloadLastVersion complete";
+            qCDebug(lcNetwork) << "downloadLastVersion complete";
             const QByteArray body = reply->readAll();
             // Keep a copy for the update dialog; only a file that looks like
             // ours, never an error page a proxy may have served.
@@ -115,8 +116,8 @@ void DownloadManager::downloadLastVersion(QString tag, int retry)
             return;
         }
         const QString error = reply->errorString();
-        qDebug() << "downloadLastVersion error:" << error;
-        qDebug() << "try to downloadLastVersion again:" << retry;
+        qCDebug(lcNetwork) << "downloadLastVersion error:" << error;
+        qCDebug(lcNetwork) << "try to downloadLastVersion again:" << retry;
         if (retry <= 0) {
             emit downloadLastVersionStateChanged(DownloadError, stateText, error.toUtf8());
         } else {
@@ -130,7 +131,7 @@ void DownloadManager::downloadLastVersion(QString tag, int retry)
 void DownloadManager::download(QString url, QString dir)
 {
     if (m_downloading) {
-        qWarning() << "download already running, ignored:" << url;
+        qCWarning(lcNetwork) << "download already running, ignored:" << url;
         return;
     }
     QDir().mkpath(dir);
@@ -197,7 +198,7 @@ bool DownloadManager::parseProgress(const QString& text, DownloadProgress& progr
 
 void DownloadManager::toolOutputHandle(QString text)
 {
-    qDebug() << "aria2:" << text;
+    qCDebug(lcNetwork) << "aria2:" << text;
 
     // A chunk often holds several lines (a notice and one or more progress
     // lines); the patterns' \s would run across line ends, so each line is
@@ -216,13 +217,13 @@ void DownloadManager::toolOutputHandle(QString text)
         if (!parseProgress(line, progress)) {
             continue;
         }
-        qDebug() << "Hash:" << progress.hash;
-        qDebug() << "Completed:" << progress.completed;
-        qDebug() << "Total:" << progress.total;
-        qDebug() << "Percent:" << progress.percent;
-        qDebug() << "Connections:" << progress.connections;
-        qDebug() << "Download speed:" << progress.speed;
-        qDebug() << "ETA:" << progress.eta;
+        qCDebug(lcNetwork) << "Hash:" << progress.hash;
+        qCDebug(lcNetwork) << "Completed:" << progress.completed;
+        qCDebug(lcNetwork) << "Total:" << progress.total;
+        qCDebug(lcNetwork) << "Percent:" << progress.percent;
+        qCDebug(lcNetwork) << "Connections:" << progress.connections;
+        qCDebug(lcNetwork) << "Download speed:" << progress.speed;
+        qCDebug(lcNetwork) << "ETA:" << progress.eta;
         emit downloadProgress(progress);
     }
 
@@ -232,17 +233,17 @@ void DownloadManager::toolOutputHandle(QString text)
     static const QRegularExpression completePattern(QStringLiteral("Download complete: (.+)"));
     const QRegularExpressionMatch match = completePattern.match(text);
     if (!match.hasMatch()) {
-        qDebug() << "No match";
+        qCDebug(lcNetwork) << "No match";
         m_completeSeen = true;
         failDownload(QStringLiteral("File cann't find in local:") + text);
         return;
     }
     m_completeSeen = true;
     const QString path = match.captured(1).trimmed();
-    qDebug() << "Path:" << path;
+    qCDebug(lcNetwork) << "Path:" << path;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        qWarning() << "Failed to open file:" << path;
+        qCWarning(lcNetwork) << "Failed to open file:" << path;
         failDownload(tr("The downloaded file could not be opened: %1").arg(path));
         return;
     }
@@ -250,13 +251,13 @@ void DownloadManager::toolOutputHandle(QString text)
 
     auto* calculator = new Md5Calculator(path);
     connect(calculator, &Md5Calculator::md5Calculated, this, [this](QString filePath, QString md5) {
-        qDebug() << "MD5:" << filePath << md5;
+        qCDebug(lcNetwork) << "MD5:" << filePath << md5;
         m_downloading = false;
         emit downloadMd5(filePath, md5);
         emit downloadStateChanged(DownloadFinished, filePath);
     });
     connect(calculator, &Md5Calculator::md5Error, this, [this](QString filePath, QString error) {
-        qWarning() << "MD5 failed:" << filePath << error;
+        qCWarning(lcNetwork) << "MD5 failed:" << filePath << error;
         failDownload(error);
     });
     calculator->start(QThread::InheritPriority);
@@ -264,7 +265,7 @@ void DownloadManager::toolOutputHandle(QString text)
 
 void DownloadManager::toolErrorHandle(QString text)
 {
-    qDebug() << "aria2 Error:" << text;
+    qCDebug(lcNetwork) << "aria2 Error:" << text;
     m_lastToolError = text.trimmed();
 }
 

@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "logcategories.h"
 #include "settings.h"
 #include "speechservice.h"
 
@@ -68,11 +69,11 @@ QString HttpManager::replyMessage(const QByteArray& body, const QString& fallbac
 
 void HttpManager::loadCaptions(const QString& filePath, const QString& language)
 {
-    qDebug() << "start loadCaptions";
+    qCDebug(lcNetwork) << "start loadCaptions";
     // An extraction that failed leaves no file, or an empty one.
     const QFileInfo info(filePath);
     if (!info.isFile() || !info.isReadable() || info.size() == 0) {
-        qDebug() << "Failed to open file";
+        qCDebug(lcNetwork) << "Failed to open file";
         emit submitFailed(info.isFile() && info.isReadable() ? tr("The video has no sound that could be extracted.")
                                                              : tr("The extracted audio file could not be read."));
         return;
@@ -87,7 +88,7 @@ void HttpManager::loadCaptions(const QString& filePath, const QString& language)
         }
         m_waitingForService = false;
         if (!ok) {
-            qDebug() << "speech service unavailable:" << message;
+            qCDebug(lcNetwork) << "speech service unavailable:" << message;
             emit submitFailed(message);
             return;
         }
@@ -106,7 +107,7 @@ void HttpManager::submit(const QString& filePath, const QString& language)
 
     auto* file = new QFile(filePath);
     if (!file->open(QIODevice::ReadOnly)) {
-        qDebug() << "Failed to open file";
+        qCDebug(lcNetwork) << "Failed to open file";
         delete file;
         emit submitFailed(tr("The extracted audio file could not be read."));
         return;
@@ -131,11 +132,11 @@ void HttpManager::submit(const QString& filePath, const QString& language)
             && object.value(QStringLiteral("state")).toString() != QLatin1String("failed")) {
             const QString taskId = object.value(QStringLiteral("task_id")).toString();
             getCaptionsByTaskId(taskId);
-            qDebug().noquote() << "Request successful";
-            qDebug().noquote() << "Response: " << body;
-            qDebug().noquote() << "TaskId: " << taskId;
+            qCDebug(lcNetwork).noquote() << "Request successful";
+            qCDebug(lcNetwork).noquote() << "Response: " << body;
+            qCDebug(lcNetwork).noquote() << "TaskId: " << taskId;
         } else {
-            qDebug().noquote() << "Request failed. Error: " << reply->errorString();
+            qCDebug(lcNetwork).noquote() << "Request failed. Error: " << reply->errorString();
             // A cancelled upload is the user's own doing: nothing to report.
             if (reply->error() != QNetworkReply::OperationCanceledError) {
                 emit submitFailed(
@@ -148,7 +149,7 @@ void HttpManager::submit(const QString& filePath, const QString& language)
 
 void HttpManager::getCaptionsByTaskId(const QString& taskId)
 {
-    qDebug() << "start getCaptionsByTaskId";
+    qCDebug(lcNetwork) << "start getCaptionsByTaskId";
     QNetworkRequest request(QUrl(SpeechService::instance()->serviceUrl(speechBaseUrl())
                                  + QStringLiteral("/api/speech/query?task_id=") + taskId));
     SpeechService::instance()->authorize(request);
@@ -160,7 +161,7 @@ void HttpManager::getCaptionsByTaskId(const QString& taskId)
         if (reply->error() == QNetworkReply::OperationCanceledError) {
             // Cancelled by the user: nothing to report.
         } else if (reply->error() != QNetworkReply::NoError) {
-            qDebug().noquote() << "query failed:" << reply->errorString();
+            qCDebug(lcNetwork).noquote() << "query failed:" << reply->errorString();
             emit requestError(AppConfig::KEY_TASK_ID, QJsonObject(), body);
         } else {
             // A "failed" answer is an answer too: the caption flow reads its reason.
@@ -230,7 +231,7 @@ void HttpManager::post(const QString& url, const QJsonObject& object, int retry)
         if (reply->error() == QNetworkReply::NoError) {
             emit requestFinished(key, answer, body);
         } else if (retry < 3) {
-            qDebug() << "retry:" << retry;
+            qCDebug(lcNetwork) << "retry:" << retry;
             post(url, object, retry + 1);
         } else {
             QJsonObject error = answer;

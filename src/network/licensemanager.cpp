@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "globalmanager.h"
 #include "httpmanager.h"
+#include "logcategories.h"
 #include "settings.h"
 
 #include <QDebug>
@@ -66,7 +67,7 @@ void LicenseManager::restoreStored()
 {
     const QString stored = Settings::instance()->value(AppConfig::APP_REGISTER).toString();
     setRegistered(!stored.isEmpty());
-    qDebug() << "licence restored:" << (stored.isEmpty() ? "false" : "true");
+    qCDebug(lcNetwork) << "licence restored:" << (stored.isEmpty() ? "false" : "true");
 }
 
 void LicenseManager::registerKey(const QString& key)
@@ -77,12 +78,12 @@ void LicenseManager::registerKey(const QString& key)
         return;
     }
     if (m_busy) {
-        qDebug() << "registration already in progress";
+        qCDebug(lcNetwork) << "registration already in progress";
         return;
     }
     m_busy = true;
     m_pendingKey = trimmed;
-    qDebug() << "registration sent to" << licenseServerUrl();
+    qCDebug(lcNetwork) << "registration sent to" << licenseServerUrl();
     HttpManager::instance()->post(licenseServerUrl() + kRegisterPath, requestBody(trimmed), 0);
 }
 
@@ -93,7 +94,7 @@ void LicenseManager::requestFinishedHandle(QString key, const QJsonObject& objec
     if (key == KEY_VERIFY) {
         // Only a clear "no" revokes; an unreadable answer keeps the stored state.
         if (registered.isBool() && !registered.toBool()) {
-            qDebug() << "licence verify: refused";
+            qCDebug(lcNetwork) << "licence verify: refused";
             GlobalManager::instance()->saveSettings(AppConfig::APP_REGISTER, QString());
             setRegistered(false);
         }
@@ -108,12 +109,12 @@ void LicenseManager::requestFinishedHandle(QString key, const QJsonObject& objec
     m_pendingKey.clear();
 
     if (!registered.isBool()) {
-        qDebug() << "registration answer unreadable";
+        qCDebug(lcNetwork) << "registration answer unreadable";
         GlobalManager::instance()->emitEvent(AppConfig::REGISTER_ERROR,
                                              tr("The licence server sent an answer that could not be read."));
         return;
     }
-    qDebug() << "registration answer:" << (registered.toBool() ? "accepted" : "refused");
+    qCDebug(lcNetwork) << "registration answer:" << (registered.toBool() ? "accepted" : "refused");
     if (registered.toBool()) {
         GlobalManager::instance()->saveSettings(AppConfig::APP_REGISTER, pending);
         setRegistered(true);

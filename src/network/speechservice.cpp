@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "filemanager.h"
+#include "logcategories.h"
 
 #include <QCoreApplication>
 #include <QDebug>
@@ -125,7 +126,7 @@ void SpeechService::startProcess()
         while (process->canReadLine()) {
             const QString line = QString::fromUtf8(process->readLine()).trimmed();
             if (!line.isEmpty()) {
-                qDebug().noquote() << "speech service:" << line;
+                qCDebug(lcNetwork).noquote() << "speech service:" << line;
                 m_lastError = line;
             }
         }
@@ -136,7 +137,7 @@ void SpeechService::startProcess()
                 if (!rest.isEmpty()) {
                     m_lastError = rest.section(QLatin1Char('\n'), -1);
                 }
-                qDebug() << "speech service ended with exit code" << exitCode;
+                qCDebug(lcNetwork) << "speech service ended with exit code" << exitCode;
                 if (m_process == process) {
                     m_process = nullptr;
                     m_serviceUrl.clear();
@@ -152,7 +153,7 @@ void SpeechService::startProcess()
         if (error != QProcess::FailedToStart) {
             return;
         }
-        qDebug() << "speech service failed to start:" << process->errorString();
+        qCDebug(lcNetwork) << "speech service failed to start:" << process->errorString();
         if (m_process == process) {
             m_process = nullptr;
         }
@@ -164,7 +165,7 @@ void SpeechService::startProcess()
     const QStringList arguments{QStringLiteral("--host"), QStringLiteral("127.0.0.1"),
                                 QStringLiteral("--port"), QStringLiteral("0"),
                                 QStringLiteral("--parent-pid"), QString::number(QCoreApplication::applicationPid())};
-    qDebug() << "starting speech service" << path << arguments;
+    qCDebug(lcNetwork) << "starting speech service" << path << arguments;
     m_startTimer->start();
     process->start(path, arguments, QIODevice::ReadOnly);
     if (m_process == process) {
@@ -178,7 +179,7 @@ void SpeechService::readOutput(QProcess* process)
     process->setReadChannel(QProcess::StandardOutput);
     while (process->canReadLine()) {
         const QString line = QString::fromUtf8(process->readLine()).trimmed();
-        qDebug().noquote() << "speech service:" << line;
+        qCDebug(lcNetwork).noquote() << "speech service:" << line;
         const QRegularExpressionMatch match = listening.match(line);
         if (match.hasMatch() && process == m_process && m_serviceUrl.isEmpty()) {
             m_serviceUrl = match.captured(1);

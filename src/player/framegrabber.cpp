@@ -1,5 +1,7 @@
 #include "framegrabber.h"
 
+#include "logcategories.h"
+
 #include <QDebug>
 #include <QMetaObject>
 #include <QTimer>
@@ -153,7 +155,7 @@ void FrameGrabber::fail(Failure failure, const QString& detail)
     }
     m_state = Broken;
     m_watchdog->stop();
-    qWarning() << "FrameGrabber failed:" << failure << detail << m_videoPath;
+    qCWarning(lcPlayer) << "FrameGrabber failed:" << failure << detail << m_videoPath;
     emit failed(failure, detail);
 }
 
@@ -203,7 +205,7 @@ void FrameGrabber::addPendingSubtitles()
 void FrameGrabber::grab(int tag, double seconds, bool withPlain)
 {
     if (!isReady()) {
-        qWarning() << "FrameGrabber::grab while busy or not loaded";
+        qCWarning(lcPlayer) << "FrameGrabber::grab while busy or not loaded";
         return;
     }
     m_tag = tag;

@@ -3,6 +3,7 @@
 #include "appconfig.h"
 #include "framegrabber.h"
 #include "globalmanager.h"
+#include "logcategories.h"
 #include "screenmanager.h"
 
 #include <QDebug>
@@ -300,7 +301,7 @@ void MpvWidget::mpvEventHandle(mpv_event* event)
         const double seconds = getTotalSeconds();
         const int frames = getTotalFrame();
         frameInSecond = roundHalfAwayFromZero(frames / seconds);
-        qDebug() << "File load complete:" << "Total time:" << seconds << "Total frame:" << frames
+        qCDebug(lcPlayer) << "File load complete:" << "Total time:" << seconds << "Total frame:" << frames
                  << "Frame in second:" << frameInSecond;
         GlobalManager::instance()->emitEvent(AppConfig::LOAD_FILE_COMPLETE, QVariant(filePath));
         // A meaningless rate (failed reads) still gives a sane interval.
@@ -333,7 +334,7 @@ void MpvWidget::mpvEventHandle(mpv_event* event)
             QPixmap pixmap;
             if (event->error < 0) {
                 emit error(QStringLiteral("Cannot take snapshot"));
-                qDebug() << "Cannot take snapshot:" << mpv_error_string(event->error);
+                qCDebug(lcPlayer) << "Cannot take snapshot:" << mpv_error_string(event->error);
             } else {
                 pixmap = pixmapFromScreenshot(static_cast<mpv_event_command*>(event->data)->result);
             }
@@ -400,7 +401,7 @@ int MpvWidget::runCommand(const QVariantList& args)
 void MpvWidget::loadFile(const QString& path)
 {
     filePath = path;
-    qDebug() << "loadFile" << path;
+    qCDebug(lcPlayer) << "loadFile" << path;
     playStatus = Play;
     eofReached = false;
     if (!mpv_gl) {
@@ -438,7 +439,7 @@ void MpvWidget::play()
         mpv_command_async(mpv, RequestTimePos, args);
     }
     if (runCommand({QStringLiteral("set"), QStringLiteral("pause"), QStringLiteral("no")}) < 0) {
-        qDebug() << "Error resuming video";
+        qCDebug(lcPlayer) << "Error resuming video";
     }
     playStatus = Play;
 }
@@ -446,27 +447,27 @@ void MpvWidget::play()
 void MpvWidget::resumePlay()
 {
     if (runCommand({QStringLiteral("set"), QStringLiteral("pause"), QStringLiteral("no")}) < 0) {
-        qDebug() << "Error resuming video";
+        qCDebug(lcPlayer) << "Error resuming video";
     }
 }
 
 void MpvWidget::pause()
 {
     if (runCommand({QStringLiteral("set"), QStringLiteral("pause"), QStringLiteral("yes")}) < 0) {
-        qDebug() << "Error pausing video";
+        qCDebug(lcPlayer) << "Error pausing video";
     }
     playStatus = Pause;
     if (!filePath.isEmpty()) {
-        qDebug() << "video pause" << getTotalSeconds() << getCurrentSecond() << getCurrentPlayPercent();
+        qCDebug(lcPlayer) << "video pause" << getTotalSeconds() << getCurrentSecond() << getCurrentPlayPercent();
     } else {
-        qDebug() << "video pause";
+        qCDebug(lcPlayer) << "video pause";
     }
 }
 
 void MpvWidget::stop()
 {
     if (runCommand({QStringLiteral("stop")}) < 0) {
-        qDebug() << "Error stopping video";
+        qCDebug(lcPlayer) << "Error stopping video";
     }
     loadPending = false;
     loadRestartPending = false;
@@ -477,7 +478,7 @@ void MpvWidget::stop()
 
 void MpvWidget::failLoad(const QString& reason)
 {
-    qWarning() << "file could not be played:" << filePath << reason;
+    qCWarning(lcPlayer) << "file could not be played:" << filePath << reason;
     const QString failed = filePath;
     loadActive = false;
     loadRestartPending = false;
@@ -489,7 +490,7 @@ void MpvWidget::failLoad(const QString& reason)
 void MpvWidget::seekToNextFrame()
 {
     if (runCommand({QStringLiteral("frame_step")}) < 0) {
-        qDebug() << "Error seeking to next frame";
+        qCDebug(lcPlayer) << "Error seeking to next frame";
     }
     playStatus = Pause;
 }
@@ -497,7 +498,7 @@ void MpvWidget::seekToNextFrame()
 void MpvWidget::seekToPreviousFrame()
 {
     if (runCommand({QStringLiteral("frame-back-step")}) < 0) {
-        qDebug() << "Error seeking to previous frame";
+        qCDebug(lcPlayer) << "Error seeking to previous frame";
     }
     playStatus = Pause;
 }
@@ -521,7 +522,7 @@ void MpvWidget::seekToPercent(double percent)
 void MpvWidget::seekToPositionForCapture(double seconds)
 {
     if (!mpv) {
-        qDebug() << "Error seekToPositionForCapture";
+        qCDebug(lcPlayer) << "Error seekToPositionForCapture";
         return;
     }
     const QByteArray text = FrameGrabber::seekArgument(seconds);
@@ -531,7 +532,7 @@ void MpvWidget::seekToPositionForCapture(double seconds)
     captureSeekReplied = false;
     if (mpv_command_async(mpv, RequestCaptureSeek, args) < 0) {
         captureSeekPending = false;
-        qDebug() << "Error seekToPositionForCapture";
+        qCDebug(lcPlayer) << "Error seekToPositionForCapture";
         return;
     }
     captureSeekPending = true;
@@ -571,7 +572,7 @@ void MpvWidget::subTitleAdd(const QString& path)
     const QByteArray utf8 = path.toUtf8();
     const char* args[] = {"sub-add", utf8.constData(), "select", nullptr};
     const int result = mpv_command_async(mpv, RequestSubAdd, args);
-    qDebug() << "sub-add" << path << result;
+    qCDebug(lcPlayer) << "sub-add" << path << result;
 }
 
 void MpvWidget::subTitleRemove(int id)
@@ -582,7 +583,7 @@ void MpvWidget::subTitleRemove(int id)
     const QByteArray text = QByteArray::number(id);
     const char* args[] = {"sub-remove", text.constData(), nullptr};
     const int result = mpv_command_async(mpv, RequestSubRemove, args);
-    qDebug() << "sub-remove" << text << result;
+    qCDebug(lcPlayer) << "sub-remove" << text << result;
 }
 
 bool MpvWidget::setOption(const QString& name, const QString& value)
@@ -712,9 +713,9 @@ QPair<int, int> MpvWidget::getMpvPlayerSize()
     if (mpv && mpv_get_property(mpv, "width", MPV_FORMAT_INT64, &w) >= 0
         && mpv_get_property(mpv, "height", MPV_FORMAT_INT64, &h) >= 0) {
         videoSize = qMakePair(static_cast<qint32>(w), static_cast<qint32>(h));
-        qDebug() << "Video Size: " << videoSize.first << "x" << videoSize.second;
+        qCDebug(lcPlayer) << "Video Size: " << videoSize.first << "x" << videoSize.second;
     } else {
-        qDebug() << "Failed to get video size";
+        qCDebug(lcPlayer) << "Failed to get video size";
     }
     return videoSize;
 }
@@ -729,7 +730,7 @@ QPixmap MpvWidget::takeSnapshot(const QString& path)
     mpv_node result{};
     if (mpv_command_node(mpv, args.node(), &result) < 0) {
         emit error(QStringLiteral("Cannot take snapshot"));
-        qDebug() << "Cannot take snapshot: mpv_command_node run failed.";
+        qCDebug(lcPlayer) << "Cannot take snapshot: mpv_command_node run failed.";
         return QPixmap();
     }
     const QPixmap pixmap = pixmapFromScreenshot(result);
@@ -745,7 +746,7 @@ bool MpvWidget::requestSnapshot()
     NodeBuilder args{QVariant(QVariantList{QStringLiteral("screenshot-raw"), QStringLiteral("subtitles")})};
     if (mpv_command_node_async(mpv, RequestSnapshot, args.node()) < 0) {
         emit error(QStringLiteral("Cannot take snapshot"));
-        qDebug() << "Cannot take snapshot: mpv_command_node_async run failed.";
+        qCDebug(lcPlayer) << "Cannot take snapshot: mpv_command_node_async run failed.";
         return false;
     }
     return true;
@@ -755,13 +756,13 @@ QPixmap MpvWidget::pixmapFromScreenshot(const mpv_node& result)
 {
     if (result.format != MPV_FORMAT_NODE_MAP) {
         emit error(QStringLiteral("Cannot take snapshot"));
-        qDebug() << "Cannot take snapshot:node.format != MPV_FORMAT_NODE_MAP";
+        qCDebug(lcPlayer) << "Cannot take snapshot:node.format != MPV_FORMAT_NODE_MAP";
         return QPixmap();
     }
     QByteArray problem;
     QImage image = FrameGrabber::imageFromScreenshot(result, &problem);
     if (image.isNull()) {
-        qDebug().noquote().nospace() << "Cannot take snapshot:" << problem;
+        qCDebug(lcPlayer).noquote().nospace() << "Cannot take snapshot:" << problem;
         return QPixmap();
     }
     // Moved, not copied: a full-HD frame is 8 MB.

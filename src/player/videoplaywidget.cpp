@@ -6,6 +6,7 @@
 #include "captionoverlay.h"
 #include "captionstylebar.h"
 #include "globalmanager.h"
+#include "logcategories.h"
 #include "mpvwidget.h"
 #include "settings.h"
 
@@ -190,7 +191,7 @@ QWidget* VideoPlayWidget::createControls()
     connect(m_progressSlider, &QSlider::sliderPressed, this, [this]() { sliderDragging = true; });
     connect(m_progressSlider, &QSlider::sliderReleased, this, [this]() { sliderDragging = false; });
     connect(m_progressSlider, &QSlider::valueChanged, this, [this](int value) {
-        qDebug() << "progress_slider value change:" << value << m_progressSlider->maximum();
+        qCDebug(lcPlayer) << "progress_slider value change:" << value << m_progressSlider->maximum();
         m_mpv->seekToPosition(value);
     });
 
@@ -240,7 +241,7 @@ QWidget* VideoPlayWidget::createControls()
             return;
         }
         const double speed = m_speedBox->itemData(index).toDouble();
-        qDebug() << "current mpv player speed:" << speed;
+        qCDebug(lcPlayer) << "current mpv player speed:" << speed;
         m_mpv->setPlaySpeed(speed);
     });
     buttonRow->addWidget(m_speedLabel);
@@ -256,7 +257,7 @@ QWidget* VideoPlayWidget::createControls()
     m_soundSlider->setRange(0, 100);
     m_soundSlider->setFixedWidth(AppConfig::rate(80));
     connect(m_soundSlider, &QSlider::valueChanged, this, [this](int value) {
-        qDebug() << "sound_slider value change:" << value;
+        qCDebug(lcPlayer) << "sound_slider value change:" << value;
         GlobalManager::instance()->saveSettings(AppConfig::PLAYER_VOLUME, value);
         m_mpv->setVolume(value);
     });
@@ -305,14 +306,14 @@ void VideoPlayWidget::initShortCut()
         const QByteArray word = binding.word;
         const int id = binding.button;
         connect(shortcut, &QShortcut::activated, this, [this, word, id]() {
-            qDebug() << word.constData();
+            qCDebug(lcPlayer) << word.constData();
             m_buttons.at(id)->click();
         });
         m_shortcuts.append(shortcut);
     }
     auto* open = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_O), this, nullptr, nullptr, Qt::WindowShortcut);
     connect(open, &QShortcut::activated, this, [this]() {
-        qDebug() << "capture tap";
+        qCDebug(lcPlayer) << "capture tap";
         loadFile();
     });
     m_shortcuts.append(open);
@@ -400,7 +401,7 @@ void VideoPlayWidget::playControlButtonClickHandle(QObject* widget)
     }
     const int id = widget->property(kButtonProperty).toInt();
     m_overlay->clearEditorFocus();
-    qDebug() << "playControlButtonClickHandle:" << id;
+    qCDebug(lcPlayer) << "playControlButtonClickHandle:" << id;
     switch (id) {
     case ButtonPreviousFrame:
         if (m_mpv->getPlayStatus() != MpvWidget::Stop) {
@@ -483,7 +484,7 @@ bool VideoPlayWidget::openFile(const QString& path)
 {
     const QFileInfo info(path);
     if (path.isEmpty() || !info.isFile() || !info.isReadable()) {
-        qWarning() << "openFile: not a readable file:" << path;
+        qCWarning(lcPlayer) << "openFile: not a readable file:" << path;
         return false;
     }
     loadFileByFileName(info.absoluteFilePath());
@@ -493,7 +494,7 @@ bool VideoPlayWidget::openFile(const QString& path)
 
 void VideoPlayWidget::loadFailedHandle(const QString& path, const QString& reason)
 {
-    qWarning() << "video could not be played:" << path << reason;
+    qCWarning(lcPlayer) << "video could not be played:" << path << reason;
     setPlayIcon(false);
     showLogo(true);
     resetTimeDisplay();
@@ -537,7 +538,7 @@ CaptionInfo* VideoPlayWidget::insertCaptionAtCurrentTime()
     if (!info) {
         // The position lies inside a caption already: say so rather than
         // open that one for typing, which would overwrite it.
-        qDebug() << "insert caption: none at" << currentTime;
+        qCDebug(lcPlayer) << "insert caption: none at" << currentTime;
         refreshCaption(currentTime);
         emit captionInsertRefused();
         return nullptr;
@@ -603,20 +604,20 @@ void VideoPlayWidget::mpvEventHandle(mpv_event* event)
     }
     case MPV_EVENT_COMMAND_REPLY:
         if (event->error < 0) {
-            qDebug() << "mpv reply" << event->reply_userdata << "failed:" << mpv_error_string(event->error);
+            qCDebug(lcPlayer) << "mpv reply" << event->reply_userdata << "failed:" << mpv_error_string(event->error);
         }
         switch (event->reply_userdata) {
         case MpvWidget::RequestSubAdd:
-            qDebug() << "Caption load complete";
+            qCDebug(lcPlayer) << "Caption load complete";
             emit captureEventSignal(MpvWidget::RequestSubAdd, 0);
             emit subtitleTrackAdded();
             break;
         case MpvWidget::RequestSubRemove:
-            qDebug() << "Caption remove complete";
+            qCDebug(lcPlayer) << "Caption remove complete";
             emit captureEventSignal(MpvWidget::RequestSubRemove, 0);
             break;
         case MpvWidget::RequestCaptureSeek:
-            qDebug() << "seek complete：" << m_mpv->reportedSecond();
+            qCDebug(lcPlayer) << "seek complete：" << m_mpv->reportedSecond();
             if (captureType == 0) {
                 emit captureEventSignal(MpvWidget::RequestCaptureSeek, 0);
             } else {
@@ -655,12 +656,12 @@ void VideoPlayWidget::dropEvent(QDropEvent* event)
         return;
     }
     const QString path = urls.first().toLocalFile();
-    qDebug() << "Dropped file path: " << path;
+    qCDebug(lcPlayer) << "Dropped file path: " << path;
     emit dragFileSignal(path);
 }
 
 void VideoPlayWidget::resizeEvent(QResizeEvent* event)
 {
     BaseWidget::resizeEvent(event);
-    qDebug() << "video_play_widget resizeEvent" << width() << height();
+    qCDebug(lcPlayer) << "video_play_widget resizeEvent" << width() << height();
 }

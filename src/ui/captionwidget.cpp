@@ -6,6 +6,7 @@
 #include "captionmanager.h"
 #include "confirmation.h"
 #include "globalmanager.h"
+#include "logcategories.h"
 #include "settings.h"
 
 #include <QCheckBox>
@@ -319,7 +320,7 @@ void CaptionWidget::updateTilte(int count)
 void CaptionWidget::loadItems(int from, int to)
 {
     m_loading = true;
-    qDebug() << "loadItems:" << from << to;
+    qCDebug(lcUi) << "loadItems:" << from << to;
     const QList<CaptionInfo*> result = getCaptionInfoBySearch();
     to = qMin(to, result.size() - 1);
     for (int i = from; i <= to; ++i) {
@@ -358,7 +359,7 @@ void CaptionWidget::loadItems(int from, int to)
 QList<CaptionInfo*> CaptionWidget::getCaptionInfoBySearch() const
 {
     const QString text = m_search ? m_search->text() : QString();
-    qDebug() << "getCaptionInfoBySearch" << text;
+    qCDebug(lcUi) << "getCaptionInfoBySearch" << text;
     const QList<CaptionInfo*> all = CaptionManager::instance()->getCaptions();
     if (text.isEmpty()) {
         return all;
@@ -374,7 +375,7 @@ QList<CaptionInfo*> CaptionWidget::getCaptionInfoBySearch() const
 
 void CaptionWidget::searchTextChanged(const QString& text)
 {
-    qDebug() << "search text" << text;
+    qCDebug(lcUi) << "search text" << text;
     createCaption(QByteArray());
 }
 

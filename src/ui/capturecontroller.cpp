@@ -8,6 +8,7 @@
 #include "globalmanager.h"
 #include "imageitem.h"
 #include "imageswidget.h"
+#include "logcategories.h"
 
 #include <QDebug>
 #include <QTimer>
@@ -29,14 +30,14 @@ CaptureController::CaptureController(CaptureSource* source, ImagesWidget* strip,
     connect(m_frameTimeout, &QTimer::timeout, this, [this]() {
         if (m_state == State::SeekSent) {
             // The seek was never answered: end the pass instead of waiting for ever.
-            qDebug() << "Error seekToPositionForCapture: no reply";
+            qCDebug(lcUi) << "Error seekToPositionForCapture: no reply";
             m_queue.clear();
             m_currentItem = nullptr;
             finishPass();
             emit failed(tr("Capture failed"), tr("The player did not reach the requested moment."));
             return;
         }
-        qDebug() << "capture: no playback restart after the seek, capturing anyway";
+        qCDebug(lcUi) << "capture: no playback restart after the seek, capturing anyway";
         setState(State::FrameReady);
         tryCapture();
     });
@@ -76,14 +77,14 @@ void CaptureController::captureNow()
     m_source->pause();
     const QPixmap pixmap = m_source->snapshot();
     if (pixmap.isNull()) {
-        qDebug() << "capture failed.";
+        qCDebug(lcUi) << "capture failed.";
         return;
     }
     AppConfig::CaptureData data;
     data.pixmap = pixmap;
     data.time = m_source->currentSecond();
     data.frame = m_source->currentFrame();
-    qDebug() << "capture complete:" << data.time << data.frame;
+    qCDebug(lcUi) << "capture complete:" << data.time << data.frame;
     GlobalManager::instance()->emitEvent(AppConfig::CAPTURE_IMAGE, QVariant::fromValue(data));
 }
 
@@ -139,7 +140,7 @@ bool CaptureController::seekNextQueued()
 void CaptureController::captureCheckedStep(const QPixmap& pixmap)
 {
     if (pixmap.isNull()) {
-        qDebug() << "capture select image failed.";
+        qCDebug(lcUi) << "capture select image failed.";
         finishPass();
         emit failed(tr("Capture failed"), tr("The frame could not be captured from the player."));
         return;
@@ -148,7 +149,7 @@ void CaptureController::captureCheckedStep(const QPixmap& pixmap)
     data.pixmap = pixmap;
     data.time = m_source->currentSecond();
     data.frame = m_source->currentFrame();
-    qDebug() << "capture one select image complete:" << data.time << data.frame;
+    qCDebug(lcUi) << "capture one select image complete:" << data.time << data.frame;
     setState(State::Captured);
     GlobalManager::instance()->emitEvent(AppConfig::CAPTURE_IMAGE, QVariant::fromValue(data));
     if (seekNextQueued()) {
@@ -178,8 +179,8 @@ void CaptureController::setEditedCaption(CaptionInfo* caption)
 void CaptureController::subtitlesLoaded()
 {
     const QList<ImageItem*> items = m_strip ? m_strip->items() : QList<ImageItem*>();
-    qDebug() << "EVENT_CODE_LOAD_CAPTION_COMPLETE" << items.size();
-    qDebug() << "caption_info:" << (m_editedCaption ? "true" : "false");
+    qCDebug(lcUi) << "EVENT_CODE_LOAD_CAPTION_COMPLETE" << items.size();
+    qCDebug(lcUi) << "caption_info:" << (m_editedCaption ? "true" : "false");
     if (isBusy()) {
         return;
     }
@@ -189,7 +190,7 @@ void CaptureController::subtitlesLoaded()
             showBusy(tr("Applying current style"));
             m_recapturedPixmaps.clear();
             m_currentItem = items.constFirst();
-            qDebug() << "seektoposition after load caption, seek index = 0";
+            qCDebug(lcUi) << "seektoposition after load caption, seek index = 0";
             seekTo(m_currentItem->getCpatureTime());
             m_recaptureAllPending = false;
         }
@@ -202,11 +203,11 @@ void CaptureController::subtitlesLoaded()
             break;
         }
     }
-    qDebug() << "m_current_image_item is nullptr:" << (m_currentItem ? "false" : "true");
+    qCDebug(lcUi) << "m_current_image_item is nullptr:" << (m_currentItem ? "false" : "true");
     if (!m_currentItem) {
         return;
     }
-    qDebug() << "capture time compare:" << m_currentItem->getCpatureTime() << now << m_source->currentFrame();
+    qCDebug(lcUi) << "capture time compare:" << m_currentItem->getCpatureTime() << now << m_source->currentFrame();
     m_pass = Pass::RecaptureSingle;
     showBusy(tr("Applying current style"));
     if (m_currentItem->getCpatureTime() != now) {
@@ -225,7 +226,7 @@ void CaptureController::recaptureSingleStep(const QPixmap& pixmap)
         finishPass();
         return;
     }
-    qDebug() << "重新截图-单张:" << m_currentItem->getCpatureTime();
+    qCDebug(lcUi) << "重新截图-单张:" << m_currentItem->getCpatureTime();
     setState(State::Captured);
     ImageItem* item = m_currentItem;
     m_currentItem = nullptr;
@@ -245,7 +246,7 @@ void CaptureController::recaptureAllStep(const QPixmap& pixmap)
         finishPass();
         return;
     }
-    qDebug() << "重新截图:" << m_recapturedPixmaps.size() << m_source->currentSecond();
+    qCDebug(lcUi) << "重新截图:" << m_recapturedPixmaps.size() << m_source->currentSecond();
     if (pixmap.isNull()) {
         finishPass();
         return;
@@ -262,7 +263,7 @@ void CaptureController::recaptureAllStep(const QPixmap& pixmap)
     const int i = m_recapturedPixmaps.size();
     if (i < items.size() && items.at(i)) {
         m_currentItem = items.at(i);
-        qDebug() << "seek index = " << i;
+        qCDebug(lcUi) << "seek index = " << i;
         seekTo(m_currentItem->getCpatureTime());
         return;
     }

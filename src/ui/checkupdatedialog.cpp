@@ -2,6 +2,7 @@
 
 #include "appconfig.h"
 #include "globalmanager.h"
+#include "logcategories.h"
 #include "screenmanager.h"
 #include "translatemanager.h"
 
@@ -215,7 +216,7 @@ void CheckUpdateDialog::checkForUpdate(const QString& tag, int retry)
 void CheckUpdateDialog::downloadLastVersionStatus(DownloadManager::DownloadState state, QString text,
                                                   QByteArray data)
 {
-    qDebug() << "downloadLastVersionStatus:" << state << text << data;
+    qCDebug(lcUi) << "downloadLastVersionStatus:" << state << text << data;
     const QString tag = DownloadManager::tagOfStateText(text);
     // Answers to someone else's check are not ours to show.
     if (!m_tag.isEmpty() && tag != m_tag) {

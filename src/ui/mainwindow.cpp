@@ -1,10 +1,10 @@
 #include "mainwindow.h"
 
 #include "appconfig.h"
-#include "captionmanager.h"
-#include "captiondock.h"
 #include "autocaptionflow.h"
+#include "captiondock.h"
 #include "captionfileflow.h"
+#include "captionmanager.h"
 #include "captionwidget.h"
 #include "capturecontroller.h"
 #include "checkupdatedialog.h"
@@ -13,6 +13,7 @@
 #include "httpmanager.h"
 #include "imageswidget.h"
 #include "loadingdialog.h"
+#include "logcategories.h"
 #include "mainmenu.h"
 #include "messagedialog.h"
 #include "mpvwidget.h"
@@ -50,8 +51,8 @@ MainWindow::~MainWindow() = default;
 void MainWindow::initialize()
 {
     const QSize minimum = AppConfig::rate(QSize(1000, 630));
-    qDebug() << "initialize mini main_windows_size" << minimum;
-    qDebug() << "initialize main_windows_size" << AppConfig::rate(QSize(1100, 741));
+    qCDebug(lcUi) << "initialize mini main_windows_size" << minimum;
+    qCDebug(lcUi) << "initialize main_windows_size" << AppConfig::rate(QSize(1100, 741));
     setMinimumSize(minimum);
 
     changeLangByType(TranslateManager::instance()->getLangType());
@@ -242,7 +243,7 @@ void MainWindow::changeLangByType(int type)
         QApplication::removeTranslator(m_translator);
     }
     const QString file = TranslateManager::instance()->getLangFileMap().value(type);
-    qDebug() << "changeLangByType" << file << type;
+    qCDebug(lcUi) << "changeLangByType" << file << type;
     if (m_translator->load(file)) {
         QApplication::installTranslator(m_translator);
     }
@@ -331,7 +332,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 
 void MainWindow::resizeEvent(QResizeEvent* event)
 {
-    qDebug() << "max or normal:" << (isMaximized() ? "true" : "false");
+    qCDebug(lcUi) << "max or normal:" << (isMaximized() ? "true" : "false");
     m_titleBar->changeRestoreButtonStatue(isMaximized());
     CFramelessWindow::resizeEvent(event);
 }
@@ -346,7 +347,7 @@ void MainWindow::changeEvent(QEvent* event)
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
-    qDebug() << "mainwindow key press" << event->key();
+    qCDebug(lcUi) << "mainwindow key press" << event->key();
     CFramelessWindow::keyPressEvent(event);
 }
 
@@ -388,7 +389,7 @@ void MainWindow::globalEventHandle(QString eventName, QVariant value)
     }
     if (eventName == AppConfig::TIME_POS) {
         const double seconds = value.toInt() / 1000.0;
-        qDebug() << "字幕时间:" << seconds;
+        qCDebug(lcUi) << "字幕时间:" << seconds;
         m_videoPlayWidget->pause();
         m_videoPlayWidget->seekToPostion(seconds);
     }
@@ -396,7 +397,7 @@ void MainWindow::globalEventHandle(QString eventName, QVariant value)
         m_videoPlayWidget->loadSubTitleFile(value.toString());
     }
     if (eventName == AppConfig::VIDEO_TO_AUDIO_START) {
-        qDebug() << "video_to_audio_start";
+        qCDebug(lcUi) << "video_to_audio_start";
     }
     if (eventName == AppConfig::VIDEO_TO_AUDIO_STOP) {
         m_flows->autoCaptions()->audioExtracted();

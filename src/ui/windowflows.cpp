@@ -1,27 +1,28 @@
 #include "windowflows.h"
 
 #include "appconfig.h"
+#include "appconfig.h"
 #include "autocaptionflow.h"
-#include "captioninfo.h"
 #include "captioneditor.h"
 #include "captionfileflow.h"
+#include "captioninfo.h"
 #include "captionsaveflow.h"
-#include "closeguard.h"
 #include "captionwidget.h"
-#include "appconfig.h"
-#include "exportnotice.h"
-#include "settings.h"
 #include "capturecontroller.h"
+#include "closeguard.h"
+#include "exportnotice.h"
 #include "globalmanager.h"
 #include "imageexporter.h"
 #include "imageitem.h"
 #include "imageswidget.h"
 #include "loadingdialog.h"
+#include "logcategories.h"
 #include "mainmenu.h"
 #include "messagedialog.h"
 #include "playercapturesource.h"
 #include "previewwidget.h"
 #include "registerguidedialog.h"
+#include "settings.h"
 #include "undohistory.h"
 #include "videoplaywidget.h"
 
@@ -48,7 +49,7 @@ WindowFlows::WindowFlows(const Parts& parts)
 
 void WindowFlows::showMessage(const QString& title, const QString& message)
 {
-    qDebug() << "message:" << title << message;
+    qCDebug(lcUi) << "message:" << title << message;
     m_parts.messages->showMessage(title, message);
 }
 
