@@ -5,6 +5,7 @@
 #include "clioptions.h"
 #include "licensemanager.h"
 #include "progressreporter.h"
+#include "transcribejob.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -78,7 +79,15 @@ int main(int argc, char* argv[])
 
     ProgressReporter progress(ProgressReporter::modeFor(stderr, options.quiet));
     int exitCode = 1;
-    {
+    if (options.transcribe) {
+        TranscribeJob job(options, &progress);
+        QObject::connect(&job, &TranscribeJob::finished, &app, [&exitCode](int code) {
+            exitCode = code;
+            QCoreApplication::exit(code);
+        }, Qt::QueuedConnection);
+        QTimer::singleShot(0, &job, &TranscribeJob::start);
+        app.exec();
+    } else {
         CliJob job(options, work.path(), &progress);
         QObject::connect(&job, &CliJob::finished, &app, [&exitCode](int code) {
             exitCode = code;
