@@ -150,7 +150,9 @@ private slots:
             QVERIFY(start >= previousEnd && (next < 0 || end <= next));
             QVERIFY(word + words.size() <= m_reference.size());
             for (int k = 0; k < words.size(); ++k) {
-                QCOMPARE(words.at(k).toLower().remove(QLatin1Char('.')), m_reference.at(word + k).text);
+                // Letters are words of the dictionary too ("s."): compare without full stops.
+                QCOMPARE(words.at(k).toLower().remove(QLatin1Char('.')),
+                         QString(m_reference.at(word + k).text).remove(QLatin1Char('.')));
             }
             // A sentence starts with a capital; the one before the pause ends with a full stop.
             QVERIFY2(!(word == 0 || sentenceEnded) || text.at(0).isUpper(), qPrintable(text));

@@ -14,6 +14,7 @@
 
 #include <clocale>
 #include <cstdio>
+#include <type_traits>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -79,22 +80,22 @@ int main(int argc, char* argv[])
 
     ProgressReporter progress(ProgressReporter::modeFor(stderr, options.quiet));
     int exitCode = 1;
+    // Runs a job to its end: its finished(code) is the exit status.
+    const auto run = [&app, &exitCode](auto& job) {
+        using Job = std::remove_reference_t<decltype(job)>;
+        QObject::connect(&job, &Job::finished, &app, [&exitCode](int code) {
+            exitCode = code;
+            QCoreApplication::exit(code);
+        }, Qt::QueuedConnection);
+        QTimer::singleShot(0, &job, &Job::start);
+        app.exec();
+    };
     if (options.transcribe) {
         TranscribeJob job(options, &progress);
-        QObject::connect(&job, &TranscribeJob::finished, &app, [&exitCode](int code) {
-            exitCode = code;
-            QCoreApplication::exit(code);
-        }, Qt::QueuedConnection);
-        QTimer::singleShot(0, &job, &TranscribeJob::start);
-        app.exec();
+        run(job);
     } else {
         CliJob job(options, work.path(), &progress);
-        QObject::connect(&job, &CliJob::finished, &app, [&exitCode](int code) {
-            exitCode = code;
-            QCoreApplication::exit(code);
-        }, Qt::QueuedConnection);
-        QTimer::singleShot(0, &job, &CliJob::start);
-        app.exec();
+        run(job);
     }
     return exitCode;
 }
