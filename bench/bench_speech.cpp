@@ -292,6 +292,7 @@ int extractionTable(const QString& work, const QString& video, const QString& re
 int main(int argc, char* argv[])
 {
     QCoreApplication app(argc, argv);
+    std::setvbuf(stdout, nullptr, _IOLBF, 0); // each figure as soon as it is measured
     QStandardPaths::setTestModeEnabled(true);
     CaptionManager::registerMetaTypes();
     const QString work = TestSupport::makeWorkDir(QStringLiteral("bench-speech"));

@@ -22,7 +22,7 @@ constexpr size_t kMinPieceFrames = 15 * 100;
 constexpr size_t kTargetPieceFrames = 120 * 100;
 // Each piece after the first starts this early: the decoder's noise and
 // cepstral estimates settle on audio it then throws away.
-constexpr size_t kLeadInSamples = 3 * kSampleRate;
+constexpr size_t kLeadInSamples = 2 * kSampleRate;
 // Samples handed to the decoder at a time, as pocketsphinx_continuous does.
 constexpr size_t kChunkSamples = 2048;
 
@@ -188,7 +188,13 @@ SphinxRecognizer::SphinxRecognizer(Options options)
 
 std::vector<std::pair<std::string, std::string>> SphinxRecognizer::tunedArgs()
 {
-    return {};
+    // Measured on pocketsphinx-testdata's read speech (bench_speech): the
+    // decoder's noise removal cost 4 to 5 points of word error rate on both
+    // the recordings and the extracted MP3; a longer wait before an utterance
+    // ends (0.8 s, not 0.5 s) keeps phrases whole for the language model and
+    // never did worse. A heavier or lighter language weight (5.5, 8, 10), wider
+    // beams and a higher voice threshold did worse or no better.
+    return {{"-vad_postspeech", "80"}, {"-remove_noise", "no"}};
 }
 
 std::string SphinxRecognizer::unsupportedReason(const std::string& language) const
