@@ -1,6 +1,7 @@
 #include "httpfront.h"
 
 #include <arpa/inet.h>
+#include <netdb.h>
 #include <fcntl.h>
 #include <netinet/in.h>
 #include <poll.h>
@@ -13,10 +14,21 @@
 #include <cerrno>
 #include <climits>
 #include <cstring>
+#include <type_traits>
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
+
+// The one seam to httplib's server (0.11, pinned in the build): parse, route
+// and answer one request read from a stream. A library whose seam changed
+// fails here rather than at run time.
+using ProcessRequest = bool (httplib::Server::*)(httplib::Stream&, bool, bool&,
+                                                 const std::function<void(httplib::Request&)>&);
+struct SeamCheck : httplib::Server {
+    static_assert(std::is_same<decltype(&SeamCheck::process_request), ProcessRequest>::value,
+                  "httplib::Server::process_request changed: check HttpFront against the new library");
+};
 
 // Request line and headers together; httplib's own limits are per line.
 constexpr size_t kMaxHeaderBytes = 16 * 1024;
@@ -209,31 +221,11 @@ private:
     int m_writeTimeoutMs;
 };
 
-namespace {
-// The accepting loop hands each socket over at once, on its own thread.
-class HandOverQueue : public httplib::TaskQueue
-{
-public:
-    void enqueue(std::function<void()> fn) override { fn(); }
-    void shutdown() override {}
-};
-} // namespace
-
 HttpFront::HttpFront(FrontOptions options)
     : m_options(std::move(options))
     , m_pool(m_options.workers, m_options.maxWaiting)
     , m_wakeFd(::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))
 {
-    new_task_queue = [] { return new HandOverQueue; };
-    // httplib's default also sets SO_REUSEPORT, which lets another process of
-    // the user bind the same port and take part of the connections.
-    set_socket_options([](socket_t sock) {
-        int yes = 1;
-        ::setsockopt(sock, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-    });
-    set_keep_alive_timeout(std::max<time_t>(1, std::chrono::duration_cast<std::chrono::seconds>(
-                                                    m_options.idleTimeout).count()));
-    set_keep_alive_max_count(m_options.maxRequestsPerConnection);
     set_post_routing_handler([](const httplib::Request&, httplib::Response& res) {
         // After an error the rest of the request may be unread: the connection
         // closes. One Connection header, whoever asked for the close.
@@ -252,34 +244,65 @@ HttpFront::HttpFront(FrontOptions options)
 HttpFront::~HttpFront()
 {
     shutdown();
-    if (m_poller.joinable()) {
-        m_poller.join();
-    }
     m_pool.shutdown();
+    if (m_listenFd >= 0) {
+        ::close(m_listenFd);
+    }
     if (m_wakeFd >= 0) {
         ::close(m_wakeFd);
     }
 }
 
+int HttpFront::bind(const std::string& host, int port)
+{
+    addrinfo hints{};
+    hints.ai_family = AF_UNSPEC;
+    hints.ai_socktype = SOCK_STREAM;
+    hints.ai_flags = AI_PASSIVE | AI_NUMERICSERV;
+    addrinfo* found = nullptr;
+    if (m_listenFd >= 0 || ::getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found) != 0) {
+        return -1;
+    }
+    for (addrinfo* at = found; at && m_listenFd < 0; at = at->ai_next) {
+        const int fd = ::socket(at->ai_family, at->ai_socktype | SOCK_NONBLOCK | SOCK_CLOEXEC, at->ai_protocol);
+        if (fd < 0) {
+            continue;
+        }
+        // Not SO_REUSEPORT: it would let another process of the user bind the
+        // same port and take part of the connections.
+        int yes = 1;
+        ::setsockopt(fd, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+        if (::bind(fd, at->ai_addr, at->ai_addrlen) == 0 && ::listen(fd, SOMAXCONN) == 0) {
+            m_listenFd = fd;
+        } else {
+            ::close(fd);
+        }
+    }
+    ::freeaddrinfo(found);
+    if (m_listenFd < 0) {
+        return -1;
+    }
+    std::string ip;
+    int bound = -1;
+    addressOf(m_listenFd, false, ip, bound);
+    return bound;
+}
+
 bool HttpFront::serve()
 {
-    m_poller = std::thread(&HttpFront::pollLoop, this);
-    const bool ok = listen_after_bind();
-    shutdown();
-    m_poller.join();
+    if (m_listenFd < 0) {
+        return false;
+    }
+    pollLoop();
+    ::close(m_listenFd);
+    m_listenFd = -1;
     m_pool.shutdown();
-    return ok;
+    return true;
 }
 
 void HttpFront::shutdown()
 {
     m_stopping = true;
-    // Not httplib's stop(), which does nothing before the accepting loop runs.
-    const socket_t listening = svr_sock_.exchange(INVALID_SOCKET);
-    if (listening != INVALID_SOCKET) {
-        ::shutdown(listening, SHUT_RDWR);
-        ::close(listening);
-    }
     {
         std::lock_guard<std::mutex> lock(m_mutex);
         for (int fd : m_busy) {
@@ -321,12 +344,15 @@ void HttpFront::wake()
     }
 }
 
-bool HttpFront::process_and_close_socket(socket_t sock)
+// Takes every connection waiting on the listening socket.
+void HttpFront::accept(std::vector<ConnectionPtr>& connections)
 {
-    ::fcntl(sock, F_SETFD, FD_CLOEXEC); // not into ffmpeg
-    ::fcntl(sock, F_SETFL, ::fcntl(sock, F_GETFL) | O_NONBLOCK);
-    if (m_stopping || m_open >= m_options.maxConnections) {
-        if (!m_stopping) {
+    for (;;) {
+        const int sock = ::accept4(m_listenFd, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC); // not into ffmpeg
+        if (sock < 0) {
+            return; // none left (or a client that gave up meanwhile)
+        }
+        if (m_open >= m_options.maxConnections) {
             const std::string body = m_options.errorBody ? m_options.errorBody(503) : std::string();
             const std::string reply = "HTTP/1.1 503 Service Unavailable\r\nContent-Type: application/json\r\n"
                                       "Content-Length: "
@@ -335,15 +361,14 @@ bool HttpFront::process_and_close_socket(socket_t sock)
             if (m_options.log) {
                 m_options.log("too many connections; one refused");
             }
+            ::close(sock);
+            continue;
         }
-        ::close(sock);
-        return false;
+        ++m_open;
+        auto connection = std::make_shared<Connection>(sock);
+        connection->deadline = Clock::now() + m_options.idleTimeout;
+        connections.push_back(connection);
     }
-    ++m_open;
-    auto connection = std::make_shared<Connection>(sock);
-    connection->deadline = Clock::now() + m_options.idleTimeout;
-    handOver(connection);
-    return true;
 }
 
 void HttpFront::handOver(const ConnectionPtr& connection)
@@ -380,7 +405,7 @@ void HttpFront::pollLoop()
         }
         auto now = Clock::now();
         auto next = now + std::chrono::hours(1);
-        entries.assign(1, pollfd{m_wakeFd, POLLIN, 0});
+        entries.assign({pollfd{m_wakeFd, POLLIN, 0}, pollfd{m_listenFd, POLLIN, 0}});
         for (const ConnectionPtr& connection : connections) {
             entries.push_back(pollfd{connection->fd, POLLIN, 0});
             next = std::min(next, connection->deadline);
@@ -398,7 +423,7 @@ void HttpFront::pollLoop()
         std::vector<ConnectionPtr> kept;
         for (size_t i = 0; i < connections.size(); ++i) {
             const ConnectionPtr& connection = connections[i];
-            if (entries[i + 1].revents && receive(connection)) {
+            if (entries[i + 2].revents && receive(connection)) {
                 continue; // with a worker now
             }
             if (connection->fd >= 0 && now >= connection->deadline) {
@@ -411,6 +436,9 @@ void HttpFront::pollLoop()
             if (connection->fd >= 0) {
                 kept.push_back(connection);
             }
+        }
+        if (entries[1].revents) {
+            accept(kept);
         }
         connections.swap(kept);
     }

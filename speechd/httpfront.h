@@ -13,7 +13,6 @@
 #include <mutex>
 #include <set>
 #include <string>
-#include <thread>
 #include <vector>
 
 struct FrontOptions {
@@ -30,20 +29,26 @@ struct FrontOptions {
     std::function<void(const std::string&)> log;
 };
 
-// httplib's request parsing and routing with connection handling of our own.
-// The Debian build of cpp-httplib (0.11) bounds each read, not a request, and
-// gives a thread to every connection from accept on, so slow or idle clients
-// could hold all of them. Here one poll thread holds connections while they
-// are idle or still sending their headers, a worker runs a request once its
+// httplib's request parsing and routing under a connection layer of our own.
+// httplib's server loop (0.11) bounds each read, not a request, and gives a
+// thread to every connection from accept on, so slow or idle clients could
+// hold all of them. Here the listening socket and every connection belong to
+// this class: one poll thread accepts and holds connections while they are
+// idle or still sending their headers, a worker runs a request once its
 // headers are complete, every request has a deadline for its headers and for
 // its whole body, and a reply of 400 or more closes the connection (after a
 // short lingering read, so that the client gets to read the reply).
+// Of httplib's server only the routing table and process_request(), which
+// parses, routes and answers one request read from our stream, are used.
 class HttpFront : public httplib::Server
 {
 public:
     explicit HttpFront(FrontOptions options);
     ~HttpFront() override;
 
+    // Listens on host:port (0: any free port); the port, or -1 when the
+    // address is taken or invalid.
+    int bind(const std::string& host, int port);
     // Serves on the bound socket until shutdown(); false when serving failed.
     bool serve();
     // Safe from any thread, also before serve(): closes idle connections at
@@ -63,8 +68,8 @@ private:
     class ConnectionStream;
     struct RequestState;
 
-    bool process_and_close_socket(socket_t sock) override;
     void pollLoop();
+    void accept(std::vector<ConnectionPtr>& connections);
     void handOver(const ConnectionPtr& connection);
     bool receive(const ConnectionPtr& connection);
     bool startIfComplete(const ConnectionPtr& connection);
@@ -81,11 +86,11 @@ private:
     std::atomic<bool> m_stopping{false};
     std::atomic<size_t> m_open{0};
     int m_wakeFd = -1;
+    int m_listenFd = -1;
 
     std::mutex m_mutex;
     std::vector<ConnectionPtr> m_handedOver; // to the poll thread
     std::set<int> m_busy;                     // sockets of requests in progress
-    std::thread m_poller;
 };
 
 #endif // HTTPFRONT_H

@@ -53,11 +53,18 @@ std::string message(const std::string& value)
     return compact(QJsonObject{{QStringLiteral("message"), text(value)}});
 }
 
-std::string health(const std::string& backend, bool englishOnly)
+std::string health(const std::string& backend, const std::vector<std::string>& languages)
 {
+    QJsonArray codes;
+    for (const std::string& code : languages) {
+        codes.append(text(code));
+    }
+    const bool englishOnly = languages.size() == 1 && languages.front() == "en";
     return compact(QJsonObject{{QStringLiteral("state"), QStringLiteral("ok")},
                                {QStringLiteral("backend"), text(backend)},
-                               {QStringLiteral("english_only"), englishOnly}});
+                               {QStringLiteral("english_only"), englishOnly},
+                               {QStringLiteral("languages"), codes},
+                               {QStringLiteral("any_language"), languages.empty()}});
 }
 
 } // namespace JsonReply

@@ -14,7 +14,8 @@ std::string success(const std::vector<Utterance>& utterances);
 std::string failed(const std::string& message);
 std::string running(const std::string& message);
 std::string message(const std::string& text);
-std::string health(const std::string& backend, bool englishOnly);
+// languages: the primary subtags the engine recognises; empty for any.
+std::string health(const std::string& backend, const std::vector<std::string>& languages);
 
 } // namespace JsonReply
 

@@ -158,13 +158,26 @@ int main(int argc, char* argv[])
                                                QStringLiteral("Model name sent to that server (default: "
                                                               "$GLIMMER_SPEECHD_OPENAI_MODEL or whisper-1)."),
                                                QStringLiteral("name"));
+    const QCommandLineOption decodersOption(
+        QStringLiteral("decoders"),
+        QStringLiteral("Decoders the built-in engine runs side by side on one recognition, each holding its own "
+                       "copy of the model (about 110 MB); 0: one per processor core."),
+        QStringLiteral("count"), QStringLiteral("0"));
+    const QCommandLineOption decoderArgOption(
+        QStringLiteral("decoder-arg"),
+        QStringLiteral("A pocketsphinx setting for the built-in engine, such as -lw=8 (repeatable; for tuning)."),
+        QStringLiteral("name=value"));
+    const QCommandLineOption openAiTimeoutOption(QStringLiteral("openai-timeout"),
+                                                 QStringLiteral("Longest wait for the transcription server's answer."),
+                                                 QStringLiteral("seconds"), QStringLiteral("3600"));
     const QCommandLineOption parentOption(QStringLiteral("parent-pid"),
                                           QStringLiteral("Exit when this process, the one that started the service, ends."),
                                           QStringLiteral("pid"));
     const QCommandLineOption quietOption(QStringLiteral("quiet"), QStringLiteral("Log nothing but errors."));
     parser.addOptions({hostOption, portOption, uploadOption, queueOption, jobsOption, queryTimeoutOption,
                        requestTimeoutOption, idleTimeoutOption, ttlOption, maxDurationOption, decodeTimeoutOption,
-                       ffmpegOption, modelOption, openAiUrlOption, openAiModelOption, parentOption, quietOption});
+                       ffmpegOption, modelOption, decodersOption, decoderArgOption, openAiUrlOption, openAiModelOption,
+                       openAiTimeoutOption, parentOption, quietOption});
     parser.process(app);
 
     auto number = [&parser](const QCommandLineOption& option, long long low, long long high, long long& out) {
@@ -173,12 +186,13 @@ int main(int argc, char* argv[])
         return ok && out >= low && out <= high;
     };
     long long port = 0, uploadMb = 0, queue = 0, jobs = 0, queryTimeout = 0, ttl = 0, parentPid = 0;
-    long long requestTimeout = 0, idleTimeout = 0, maxDuration = 0, decodeTimeout = 0;
+    long long requestTimeout = 0, idleTimeout = 0, maxDuration = 0, decodeTimeout = 0, decoders = 0, openAiTimeout = 0;
     if (!number(portOption, 0, 65535, port) || !number(uploadOption, 1, 1 << 20, uploadMb)
         || !number(queueOption, 1, 1000, queue) || !number(jobsOption, 1, 64, jobs)
         || !number(queryTimeoutOption, 1, 86400 * 7, queryTimeout) || !number(ttlOption, 1, 86400 * 7, ttl)
         || !number(requestTimeoutOption, 1, 86400, requestTimeout) || !number(idleTimeoutOption, 1, 3600, idleTimeout)
-        || !number(maxDurationOption, 1, 86400, maxDuration) || !number(decodeTimeoutOption, 1, 86400, decodeTimeout)) {
+        || !number(maxDurationOption, 1, 86400, maxDuration) || !number(decodeTimeoutOption, 1, 86400, decodeTimeout)
+        || !number(decodersOption, 0, 64, decoders) || !number(openAiTimeoutOption, 1, 86400, openAiTimeout)) {
         return fail(QStringLiteral("invalid option value; see --help"));
     }
     if (parser.isSet(parentOption) && !number(parentOption, 1, 1LL << 31, parentPid)) {
@@ -204,13 +218,24 @@ int main(int argc, char* argv[])
                                   ? parser.value(openAiModelOption)
                                   : envOr("GLIMMER_SPEECHD_OPENAI_MODEL", QStringLiteral("whisper-1"));
         auto remote = std::make_unique<OpenAiRecognizer>(openAiUrl.toStdString(), model.toStdString(),
-                                                         qEnvironmentVariable("GLIMMER_SPEECHD_OPENAI_KEY").toStdString());
+                                                         qEnvironmentVariable("GLIMMER_SPEECHD_OPENAI_KEY").toStdString(),
+                                                         static_cast<int>(openAiTimeout));
         if (!remote->isValid()) {
             return fail(QStringLiteral("not an http(s) address: ") + openAiUrl);
         }
         recognizer = std::move(remote);
     } else {
-        recognizer = std::make_unique<SphinxRecognizer>(parser.value(modelOption).toStdString());
+        SphinxRecognizer::Options sphinx;
+        sphinx.modelDir = parser.value(modelOption).toStdString();
+        sphinx.decoders = static_cast<int>(decoders);
+        for (const QString& setting : parser.values(decoderArgOption)) {
+            const int equals = setting.indexOf(QLatin1Char('='));
+            if (equals < 2 || !setting.startsWith(QLatin1Char('-'))) {
+                return fail(QStringLiteral("--decoder-arg takes -name=value, not \"%1\"").arg(setting));
+            }
+            sphinx.decoderArgs.emplace_back(setting.left(equals).toStdString(), setting.mid(equals + 1).toStdString());
+        }
+        recognizer = std::make_unique<SphinxRecognizer>(sphinx);
     }
 
     ServerOptions options;

@@ -10,6 +10,7 @@
 #include <QUrl>
 
 #include <cctype>
+#include <chrono>
 #include <cmath>
 #include <fstream>
 #include <sstream>
@@ -139,6 +140,44 @@ bool OpenAiRecognizer::parseSegments(const std::string& body, std::vector<Uttera
     return true;
 }
 
+std::string OpenAiRecognizer::failureMessage(const std::string& server, int status, const std::string& body,
+                                             httplib::Error transportError, int timedOutAfterSeconds)
+{
+    const std::string who = "The transcription server at " + server;
+    if (status == 0) {
+        if (timedOutAfterSeconds > 0) {
+            return who + " did not answer within " + std::to_string(timedOutAfterSeconds) + " seconds.";
+        }
+        switch (transportError) {
+        case httplib::Error::Connection:
+        case httplib::Error::ConnectionTimeout:
+            return who + " could not be reached; is it running, and is the address right?";
+        case httplib::Error::SSLConnection:
+        case httplib::Error::SSLServerVerification:
+        case httplib::Error::SSLLoadingCerts:
+            return who + " could not be reached securely (its certificate was not accepted).";
+        default:
+            return who + " could not be reached (" + httplib::to_string(transportError) + ").";
+        }
+    }
+    // OpenAI-style errors: {"error": {"message": ...}}
+    const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(body)).object();
+    std::string detail = trimmed(object.value(QStringLiteral("error")).toObject().value(QStringLiteral("message")).toString());
+    if (detail.empty()) {
+        detail = trimmed(object.value(QStringLiteral("message")).toString());
+    }
+    while (!detail.empty() && (detail.back() == '.' || detail.back() == ' ')) {
+        detail.pop_back();
+    }
+    std::string reason;
+    if (status == 401 || status == 403) {
+        reason = " refused the key (HTTP " + std::to_string(status) + ")";
+    } else {
+        reason = " refused the audio (HTTP " + std::to_string(status) + ")";
+    }
+    return who + reason + (detail.empty() ? std::string() : ": " + detail) + ".";
+}
+
 bool OpenAiRecognizer::recognize(const RecognitionJob& job, std::vector<Utterance>& utterances,
                                  std::string& error)
 {
@@ -166,25 +205,21 @@ bool OpenAiRecognizer::recognize(const RecognitionJob& job, std::vector<Utteranc
         {"response_format", "verbose_json", "", ""},
         {"language", languageParameter(job.language), "", ""},
     };
+    const auto started = std::chrono::steady_clock::now();
     const httplib::Result result = client.Post(m_path, headers, items);
     if (!result) {
-        error = "The transcription server at " + m_origin + " could not be reached ("
-                + httplib::to_string(result.error()) + ").";
+        const auto waited = std::chrono::steady_clock::now() - started;
+        error = failureMessage(m_origin, 0, std::string(), result.error(),
+                               waited >= std::chrono::seconds(m_timeoutSeconds) ? m_timeoutSeconds : 0);
         return false;
     }
     if (result->status != 200) {
-        // OpenAI-style errors: {"error": {"message": ...}}
-        const QJsonObject object = QJsonDocument::fromJson(QByteArray::fromStdString(result->body)).object();
-        QString detail = object.value(QStringLiteral("error")).toObject().value(QStringLiteral("message")).toString();
-        if (detail.isEmpty()) {
-            detail = object.value(QStringLiteral("message")).toString();
-        }
-        error = "The transcription server refused the audio (HTTP " + std::to_string(result->status) + ")";
-        if (!detail.isEmpty()) {
-            error += ": " + trimmed(detail);
-        }
-        error += ".";
+        error = failureMessage(m_origin, result->status, result->body, httplib::Error::Success, 0);
         return false;
     }
-    return parseSegments(result->body, utterances, error);
+    if (!parseSegments(result->body, utterances, error)) {
+        error = "The transcription server at " + m_origin + " gave an answer that cannot be used: " + error;
+        return false;
+    }
+    return true;
 }

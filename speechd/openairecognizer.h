@@ -3,6 +3,8 @@
 
 #include "recognizer.h"
 
+#include <httplib.h>
+
 #include <string>
 
 // Forwards the audio to a server with the OpenAI-style transcription endpoint
@@ -15,6 +17,7 @@ public:
     OpenAiRecognizer(const std::string& url, std::string model, std::string apiKey, int timeoutSeconds = 3600);
 
     std::string name() const override { return "openai:" + m_origin + m_path; }
+    std::vector<std::string> languages() const override { return {}; }
     std::string unsupportedReason(const std::string& language) const override;
     bool recognize(const RecognitionJob& job, std::vector<Utterance>& utterances,
                    std::string& error) override;
@@ -26,6 +29,12 @@ public:
     // Utterances from a verbose_json body; false with a message when it has none.
     static bool parseSegments(const std::string& body, std::vector<Utterance>& utterances,
                               std::string& error);
+
+    // The one sentence a failure reaches the user as, naming the server: a
+    // transport error (status 0; timedOutAfterSeconds when the wait ran out)
+    // or the server's refusal with its own message.
+    static std::string failureMessage(const std::string& server, int status, const std::string& body,
+                                      httplib::Error transportError, int timedOutAfterSeconds);
 
 private:
     std::string m_origin; // scheme://host:port

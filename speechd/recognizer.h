@@ -37,6 +37,10 @@ public:
 
     virtual std::string name() const = 0;
 
+    // The primary language subtags ("en") the engine recognises; empty when it
+    // takes any language and the engine behind it decides.
+    virtual std::vector<std::string> languages() const = 0;
+
     // Empty when the language can be recognised; otherwise the reason, worded for the user.
     virtual std::string unsupportedReason(const std::string& language) const = 0;
 

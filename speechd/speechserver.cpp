@@ -140,12 +140,8 @@ SpeechServer::~SpeechServer()
 
 bool SpeechServer::bind()
 {
-    if (m_options.port == 0) {
-        m_port = m_http->bind_to_any_port(m_options.host);
-        return m_port > 0;
-    }
-    m_port = m_options.port;
-    return m_http->bind_to_port(m_options.host, m_options.port);
+    m_port = m_http->bind(m_options.host, m_options.port);
+    return m_port > 0;
 }
 
 bool SpeechServer::run()
@@ -227,7 +223,7 @@ void SpeechServer::setupRoutes()
     });
 
     http.Get("/api/speech/health", [this](const httplib::Request&, httplib::Response& res) {
-        answer(res, 200, JsonReply::health(m_recognizer->name(), !m_recognizer->unsupportedReason("fr-FR").empty()));
+        answer(res, 200, JsonReply::health(m_recognizer->name(), m_recognizer->languages()));
     });
 
     // Refusals answer before the body is read; the connection then closes.

@@ -247,6 +247,16 @@ void TestCli::badInput_data()
     QTest::newRow("space eats the frames") << QStringList{m_video, "--subtitles", m_srt, "--space", "-360", "-o", out}
                                            << 2 << "--space -360 leaves nothing";
     QTest::newRow("missing video") << QStringList{dir + "/none.mp4", "-o", out} << 1 << "cannot read video";
+    const QString captions = dir + QStringLiteral("/out.srt");
+    QTest::newRow("transcribe nowhere") << QStringList{m_video, "--transcribe"} << 2 << "needs -o OUT.srt";
+    QTest::newRow("transcribe to a picture") << QStringList{m_video, "--transcribe", "-o", out} << 2 << "use a .srt or .ass";
+    QTest::newRow("transcribe and stitch") << QStringList{m_video, "--transcribe", "--layout", "grid", "-o", captions}
+                                           << 2 << "--layout makes pictures";
+    QTest::newRow("unknown language") << QStringList{m_video, "--transcribe", "--language", "xx", "-o", captions} << 2
+                                      << "--language must be one of en-US, es-MX";
+    // The bundled glimmer-speechd knows English only: refused before any extraction.
+    QTest::newRow("language the engine lacks") << QStringList{m_video, "--transcribe", "--language", "ko-KR", "-o", captions}
+                                               << 1 << "the speech engine does not recognise ko-KR";
     QTest::newRow("unreadable video") << QStringList{text, "--subtitles", m_srt, "-o", out} << 1
                                       << "cannot read video notes.mp4";
     QTest::newRow("no video stream") << QStringList{sound, "--subtitles", m_srt, "-o", out} << 1

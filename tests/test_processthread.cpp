@@ -103,7 +103,8 @@ private slots:
         QVERIFY(g->audioThread()->wait(5000));
         // (test_speech_e2e checks the file it writes and the start event.)
         const QStringList args = g->audioThread()->arguments();
-        QCOMPARE(args.mid(2, 8), (QStringList{"-vn", "-ar", "16000", "-ac", "1", "-format", "wav", "-y"}));
+        // Every argument of the extraction, and an explicit bitrate before the output.
+        QCOMPARE(args.mid(2, 10), (QStringList{"-vn", "-ar", "16000", "-ac", "1", "-format", "wav", "-b:a", "48k", "-y"}));
 
         // Stopping while nothing runs does nothing.
         QElapsedTimer timer;

@@ -320,6 +320,10 @@
         <source>Remove</source>
         <translation>删除</translation>
     </message>
+    <message>
+        <source>%1 – needs a speech server</source>
+        <translation>%1 – 需要语音服务器</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -673,6 +677,10 @@
         <source>Choose the output folder</source>
         <translation>选择输出文件夹</translation>
     </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>语音引擎...</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -901,6 +909,94 @@
     </message>
 </context>
 <context>
+    <name>SpeechEngineDialog</name>
+    <message>
+        <source>Works: %1</source>
+        <translation>可用：%1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失败：%1</translation>
+    </message>
+    <message>
+        <source>Speech engine</source>
+        <translation>语音引擎</translation>
+    </message>
+    <message>
+        <source>Built-in (offline, English only)</source>
+        <translation>内置（离线，仅英语）</translation>
+    </message>
+    <message>
+        <source>Transcription server (OpenAI-compatible API)</source>
+        <translation>转写服务器（OpenAI 兼容 API）</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>地址：</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>模型：</translation>
+    </message>
+    <message>
+        <source>Key:</source>
+        <translation>密钥：</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>测试</translation>
+    </message>
+    <message>
+        <source>GLIMMER_SPEECHD_OPENAI_URL is set: automatic captions use that server whatever is chosen here.</source>
+        <translation>已设置 GLIMMER_SPEECHD_OPENAI_URL：无论此处如何选择，自动字幕都使用该服务器。</translation>
+    </message>
+    <message>
+        <source>Testing...</source>
+        <translation>正在测试...</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechEngineTest</name>
+    <message numerus="yes">
+        <source>The test got no answer within %n second(s).</source>
+        <translation>
+            <numerusform>测试在 %n 秒内没有收到应答。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The speech service program is missing: %1</source>
+        <translation>缺少语音识别服务程序：%1</translation>
+    </message>
+    <message>
+        <source>The speech service stopped: %1</source>
+        <translation>语音识别服务已停止：%1</translation>
+    </message>
+    <message>
+        <source>The speech service could not be started: %1</source>
+        <translation>无法启动语音识别服务：%1</translation>
+    </message>
+    <message>
+        <source>The test sound could not be written: %1</source>
+        <translation>无法写入测试声音：%1</translation>
+    </message>
+    <message>
+        <source>The built-in engine works. It recognises English.</source>
+        <translation>内置引擎工作正常，可识别英语。</translation>
+    </message>
+    <message>
+        <source>%1 answered with model %2. It recognises the languages its model knows.</source>
+        <translation>%1 已使用模型 %2 应答，可识别其模型所支持的语言。</translation>
+    </message>
+    <message>
+        <source>(default)</source>
+        <translation>（默认）</translation>
+    </message>
+</context>
+<context>
     <name>SpeechService</name>
     <message>
         <source>The speech service did not start in time.</source>
@@ -917,6 +1013,10 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>无法启动语音识别服务：%1</translation>
+    </message>
+    <message>
+        <source>The speech service did not answer: %1</source>
+        <translation>语音服务没有应答：%1</translation>
     </message>
 </context>
 <context>
@@ -1145,6 +1245,18 @@
     <message>
         <source>Clear captions</source>
         <translation>清空字幕</translation>
+    </message>
+    <message>
+        <source>%1 needs a speech server</source>
+        <translation>%1 需要语音服务器</translation>
+    </message>
+    <message>
+        <source>The built-in speech engine recognises English only. To make captions in %1, connect a transcription server in Speech engine.</source>
+        <translation>内置语音引擎仅识别英语。要生成%1字幕，请在“语音引擎”中连接转写服务器。</translation>
+    </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>语音引擎...</translation>
     </message>
 </context>
 <context>

@@ -321,6 +321,10 @@
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
+    <message>
+        <source>%1 – needs a speech server</source>
+        <translation>%1 – braucht einen Sprachserver</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -679,6 +683,10 @@
         <source>Choose the output folder</source>
         <translation>Ausgabeordner wählen</translation>
     </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Spracherkennung...</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -907,6 +915,95 @@
     </message>
 </context>
 <context>
+    <name>SpeechEngineDialog</name>
+    <message>
+        <source>Works: %1</source>
+        <translation>Funktioniert: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Speech engine</source>
+        <translation>Spracherkennung</translation>
+    </message>
+    <message>
+        <source>Built-in (offline, English only)</source>
+        <translation>Eingebaut (offline, nur Englisch)</translation>
+    </message>
+    <message>
+        <source>Transcription server (OpenAI-compatible API)</source>
+        <translation>Transkriptionsserver (OpenAI-kompatible API)</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse:</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>Modell:</translation>
+    </message>
+    <message>
+        <source>Key:</source>
+        <translation>Schlüssel:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keiner</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testen</translation>
+    </message>
+    <message>
+        <source>GLIMMER_SPEECHD_OPENAI_URL is set: automatic captions use that server whatever is chosen here.</source>
+        <translation>GLIMMER_SPEECHD_OPENAI_URL ist gesetzt: Automatische Untertitel nutzen diesen Server, gleich was hier gewählt ist.</translation>
+    </message>
+    <message>
+        <source>Testing...</source>
+        <translation>Wird getestet...</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechEngineTest</name>
+    <message numerus="yes">
+        <source>The test got no answer within %n second(s).</source>
+        <translation>
+            <numerusform>Der Test bekam innerhalb von %n Sekunde keine Antwort.</numerusform>
+            <numerusform>Der Test bekam innerhalb von %n Sekunden keine Antwort.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The speech service program is missing: %1</source>
+        <translation>Das Programm des Spracherkennungsdienstes fehlt: %1</translation>
+    </message>
+    <message>
+        <source>The speech service stopped: %1</source>
+        <translation>Der Spracherkennungsdienst wurde beendet: %1</translation>
+    </message>
+    <message>
+        <source>The speech service could not be started: %1</source>
+        <translation>Der Spracherkennungsdienst konnte nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>The test sound could not be written: %1</source>
+        <translation>Der Testklang konnte nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>The built-in engine works. It recognises English.</source>
+        <translation>Die eingebaute Erkennung funktioniert. Sie erkennt Englisch.</translation>
+    </message>
+    <message>
+        <source>%1 answered with model %2. It recognises the languages its model knows.</source>
+        <translation>%1 hat mit dem Modell %2 geantwortet. Er erkennt die Sprachen, die sein Modell kennt.</translation>
+    </message>
+    <message>
+        <source>(default)</source>
+        <translation>(Standard)</translation>
+    </message>
+</context>
+<context>
     <name>SpeechService</name>
     <message>
         <source>The speech service did not start in time.</source>
@@ -923,6 +1020,10 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Der Spracherkennungsdienst konnte nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>The speech service did not answer: %1</source>
+        <translation>Der Spracherkennungsdienst hat nicht geantwortet: %1</translation>
     </message>
 </context>
 <context>
@@ -1152,6 +1253,18 @@
     <message>
         <source>Clear captions</source>
         <translation>Untertitel löschen</translation>
+    </message>
+    <message>
+        <source>%1 needs a speech server</source>
+        <translation>%1 braucht einen Sprachserver</translation>
+    </message>
+    <message>
+        <source>The built-in speech engine recognises English only. To make captions in %1, connect a transcription server in Speech engine.</source>
+        <translation>Die eingebaute Spracherkennung erkennt nur Englisch. Für Untertitel auf %1 verbinden Sie unter Spracherkennung einen Transkriptionsserver.</translation>
+    </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Spracherkennung...</translation>
     </message>
 </context>
 <context>

@@ -321,6 +321,10 @@
         <source>Remove</source>
         <translation>Remove</translation>
     </message>
+    <message>
+        <source>%1 – needs a speech server</source>
+        <translation>%1 – needs a speech server</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -679,6 +683,10 @@
         <source>Choose the output folder</source>
         <translation>Choose the output folder</translation>
     </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Speech engine...</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -907,6 +915,95 @@
     </message>
 </context>
 <context>
+    <name>SpeechEngineDialog</name>
+    <message>
+        <source>Works: %1</source>
+        <translation>Works: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Failed: %1</translation>
+    </message>
+    <message>
+        <source>Speech engine</source>
+        <translation>Speech engine</translation>
+    </message>
+    <message>
+        <source>Built-in (offline, English only)</source>
+        <translation>Built-in (offline, English only)</translation>
+    </message>
+    <message>
+        <source>Transcription server (OpenAI-compatible API)</source>
+        <translation>Transcription server (OpenAI-compatible API)</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Address:</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>Model:</translation>
+    </message>
+    <message>
+        <source>Key:</source>
+        <translation>Key:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>none</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Test</translation>
+    </message>
+    <message>
+        <source>GLIMMER_SPEECHD_OPENAI_URL is set: automatic captions use that server whatever is chosen here.</source>
+        <translation>GLIMMER_SPEECHD_OPENAI_URL is set: automatic captions use that server whatever is chosen here.</translation>
+    </message>
+    <message>
+        <source>Testing...</source>
+        <translation>Testing...</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechEngineTest</name>
+    <message numerus="yes">
+        <source>The test got no answer within %n second(s).</source>
+        <translation>
+            <numerusform>The test got no answer within %n second.</numerusform>
+            <numerusform>The test got no answer within %n seconds.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The speech service program is missing: %1</source>
+        <translation>The speech service program is missing: %1</translation>
+    </message>
+    <message>
+        <source>The speech service stopped: %1</source>
+        <translation>The speech service stopped: %1</translation>
+    </message>
+    <message>
+        <source>The speech service could not be started: %1</source>
+        <translation>The speech service could not be started: %1</translation>
+    </message>
+    <message>
+        <source>The test sound could not be written: %1</source>
+        <translation>The test sound could not be written: %1</translation>
+    </message>
+    <message>
+        <source>The built-in engine works. It recognises English.</source>
+        <translation>The built-in engine works. It recognises English.</translation>
+    </message>
+    <message>
+        <source>%1 answered with model %2. It recognises the languages its model knows.</source>
+        <translation>%1 answered with model %2. It recognises the languages its model knows.</translation>
+    </message>
+    <message>
+        <source>(default)</source>
+        <translation>(default)</translation>
+    </message>
+</context>
+<context>
     <name>SpeechService</name>
     <message>
         <source>The speech service did not start in time.</source>
@@ -923,6 +1020,10 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>The speech service could not be started: %1</translation>
+    </message>
+    <message>
+        <source>The speech service did not answer: %1</source>
+        <translation>The speech service did not answer: %1</translation>
     </message>
 </context>
 <context>
@@ -1152,6 +1253,18 @@
     <message>
         <source>Clear captions</source>
         <translation>Clear captions</translation>
+    </message>
+    <message>
+        <source>%1 needs a speech server</source>
+        <translation>%1 needs a speech server</translation>
+    </message>
+    <message>
+        <source>The built-in speech engine recognises English only. To make captions in %1, connect a transcription server in Speech engine.</source>
+        <translation>The built-in speech engine recognises English only. To make captions in %1, connect a transcription server in Speech engine.</translation>
+    </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Speech engine...</translation>
     </message>
 </context>
 <context>

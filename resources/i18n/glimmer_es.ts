@@ -321,6 +321,10 @@
         <source>Remove</source>
         <translation>Quitar</translation>
     </message>
+    <message>
+        <source>%1 – needs a speech server</source>
+        <translation>%1 – necesita un servidor de voz</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -679,6 +683,10 @@
         <source>Choose the output folder</source>
         <translation>Elegir la carpeta de salida</translation>
     </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Motor de voz...</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -907,6 +915,95 @@
     </message>
 </context>
 <context>
+    <name>SpeechEngineDialog</name>
+    <message>
+        <source>Works: %1</source>
+        <translation>Funciona: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Falló: %1</translation>
+    </message>
+    <message>
+        <source>Speech engine</source>
+        <translation>Motor de voz</translation>
+    </message>
+    <message>
+        <source>Built-in (offline, English only)</source>
+        <translation>Integrado (sin conexión, solo inglés)</translation>
+    </message>
+    <message>
+        <source>Transcription server (OpenAI-compatible API)</source>
+        <translation>Servidor de transcripción (API compatible con OpenAI)</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Dirección:</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>Modelo:</translation>
+    </message>
+    <message>
+        <source>Key:</source>
+        <translation>Clave:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Probar</translation>
+    </message>
+    <message>
+        <source>GLIMMER_SPEECHD_OPENAI_URL is set: automatic captions use that server whatever is chosen here.</source>
+        <translation>GLIMMER_SPEECHD_OPENAI_URL está definida: los subtítulos automáticos usan ese servidor, se elija lo que se elija aquí.</translation>
+    </message>
+    <message>
+        <source>Testing...</source>
+        <translation>Probando...</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechEngineTest</name>
+    <message numerus="yes">
+        <source>The test got no answer within %n second(s).</source>
+        <translation>
+            <numerusform>La prueba no recibió respuesta en %n segundo.</numerusform>
+            <numerusform>La prueba no recibió respuesta en %n segundos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The speech service program is missing: %1</source>
+        <translation>Falta el programa del servicio de reconocimiento de voz: %1</translation>
+    </message>
+    <message>
+        <source>The speech service stopped: %1</source>
+        <translation>El servicio de reconocimiento de voz se ha detenido: %1</translation>
+    </message>
+    <message>
+        <source>The speech service could not be started: %1</source>
+        <translation>No se ha podido iniciar el servicio de reconocimiento de voz: %1</translation>
+    </message>
+    <message>
+        <source>The test sound could not be written: %1</source>
+        <translation>No se pudo escribir el sonido de prueba: %1</translation>
+    </message>
+    <message>
+        <source>The built-in engine works. It recognises English.</source>
+        <translation>El motor integrado funciona. Reconoce inglés.</translation>
+    </message>
+    <message>
+        <source>%1 answered with model %2. It recognises the languages its model knows.</source>
+        <translation>%1 respondió con el modelo %2. Reconoce los idiomas que conoce su modelo.</translation>
+    </message>
+    <message>
+        <source>(default)</source>
+        <translation>(predeterminado)</translation>
+    </message>
+</context>
+<context>
     <name>SpeechService</name>
     <message>
         <source>The speech service did not start in time.</source>
@@ -923,6 +1020,10 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>No se ha podido iniciar el servicio de reconocimiento de voz: %1</translation>
+    </message>
+    <message>
+        <source>The speech service did not answer: %1</source>
+        <translation>El servicio de voz no respondió: %1</translation>
     </message>
 </context>
 <context>
@@ -1152,6 +1253,18 @@
     <message>
         <source>Clear captions</source>
         <translation>Borrar subtítulos</translation>
+    </message>
+    <message>
+        <source>%1 needs a speech server</source>
+        <translation>%1 necesita un servidor de voz</translation>
+    </message>
+    <message>
+        <source>The built-in speech engine recognises English only. To make captions in %1, connect a transcription server in Speech engine.</source>
+        <translation>El motor de voz integrado solo reconoce inglés. Para crear subtítulos en %1, conecte un servidor de transcripción en Motor de voz.</translation>
+    </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Motor de voz...</translation>
     </message>
 </context>
 <context>

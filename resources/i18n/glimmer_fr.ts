@@ -321,6 +321,10 @@
         <source>Remove</source>
         <translation>Supprimer</translation>
     </message>
+    <message>
+        <source>%1 – needs a speech server</source>
+        <translation>%1 – nécessite un serveur vocal</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -679,6 +683,10 @@
         <source>Choose the output folder</source>
         <translation>Choisir le dossier de sortie</translation>
     </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Moteur vocal...</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -907,6 +915,95 @@
     </message>
 </context>
 <context>
+    <name>SpeechEngineDialog</name>
+    <message>
+        <source>Works: %1</source>
+        <translation>Fonctionne : %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Échec : %1</translation>
+    </message>
+    <message>
+        <source>Speech engine</source>
+        <translation>Moteur vocal</translation>
+    </message>
+    <message>
+        <source>Built-in (offline, English only)</source>
+        <translation>Intégré (hors ligne, anglais uniquement)</translation>
+    </message>
+    <message>
+        <source>Transcription server (OpenAI-compatible API)</source>
+        <translation>Serveur de transcription (API compatible OpenAI)</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse :</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>Modèle :</translation>
+    </message>
+    <message>
+        <source>Key:</source>
+        <translation>Clé :</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucune</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Tester</translation>
+    </message>
+    <message>
+        <source>GLIMMER_SPEECHD_OPENAI_URL is set: automatic captions use that server whatever is chosen here.</source>
+        <translation>GLIMMER_SPEECHD_OPENAI_URL est défini : les sous-titres automatiques utilisent ce serveur, quel que soit le choix fait ici.</translation>
+    </message>
+    <message>
+        <source>Testing...</source>
+        <translation>Test en cours...</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechEngineTest</name>
+    <message numerus="yes">
+        <source>The test got no answer within %n second(s).</source>
+        <translation>
+            <numerusform>Le test n’a reçu aucune réponse en %n seconde.</numerusform>
+            <numerusform>Le test n’a reçu aucune réponse en %n secondes.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The speech service program is missing: %1</source>
+        <translation>Le programme du service de reconnaissance vocale est introuvable : %1</translation>
+    </message>
+    <message>
+        <source>The speech service stopped: %1</source>
+        <translation>Le service de reconnaissance vocale s’est arrêté : %1</translation>
+    </message>
+    <message>
+        <source>The speech service could not be started: %1</source>
+        <translation>Impossible de démarrer le service de reconnaissance vocale : %1</translation>
+    </message>
+    <message>
+        <source>The test sound could not be written: %1</source>
+        <translation>Le son de test n’a pas pu être écrit : %1</translation>
+    </message>
+    <message>
+        <source>The built-in engine works. It recognises English.</source>
+        <translation>Le moteur intégré fonctionne. Il reconnaît l’anglais.</translation>
+    </message>
+    <message>
+        <source>%1 answered with model %2. It recognises the languages its model knows.</source>
+        <translation>%1 a répondu avec le modèle %2. Il reconnaît les langues que son modèle connaît.</translation>
+    </message>
+    <message>
+        <source>(default)</source>
+        <translation>(par défaut)</translation>
+    </message>
+</context>
+<context>
     <name>SpeechService</name>
     <message>
         <source>The speech service did not start in time.</source>
@@ -923,6 +1020,10 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Impossible de démarrer le service de reconnaissance vocale : %1</translation>
+    </message>
+    <message>
+        <source>The speech service did not answer: %1</source>
+        <translation>Le service vocal n’a pas répondu : %1</translation>
     </message>
 </context>
 <context>
@@ -1152,6 +1253,18 @@
     <message>
         <source>Clear captions</source>
         <translation>Effacer les sous-titres</translation>
+    </message>
+    <message>
+        <source>%1 needs a speech server</source>
+        <translation>%1 nécessite un serveur vocal</translation>
+    </message>
+    <message>
+        <source>The built-in speech engine recognises English only. To make captions in %1, connect a transcription server in Speech engine.</source>
+        <translation>Le moteur vocal intégré ne reconnaît que l’anglais. Pour des sous-titres en %1, connectez un serveur de transcription dans Moteur vocal.</translation>
+    </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Moteur vocal...</translation>
     </message>
 </context>
 <context>

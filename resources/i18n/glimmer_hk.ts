@@ -320,6 +320,10 @@
         <source>Remove</source>
         <translation>刪除</translation>
     </message>
+    <message>
+        <source>%1 – needs a speech server</source>
+        <translation>%1 – 需要語音伺服器</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -673,6 +677,10 @@
         <source>Choose the output folder</source>
         <translation>選擇輸出資料夾</translation>
     </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>語音引擎...</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -901,6 +909,94 @@
     </message>
 </context>
 <context>
+    <name>SpeechEngineDialog</name>
+    <message>
+        <source>Works: %1</source>
+        <translation>可用：%1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失敗：%1</translation>
+    </message>
+    <message>
+        <source>Speech engine</source>
+        <translation>語音引擎</translation>
+    </message>
+    <message>
+        <source>Built-in (offline, English only)</source>
+        <translation>內置（離線，僅英語）</translation>
+    </message>
+    <message>
+        <source>Transcription server (OpenAI-compatible API)</source>
+        <translation>轉寫伺服器（OpenAI 相容 API）</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>地址：</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>模型：</translation>
+    </message>
+    <message>
+        <source>Key:</source>
+        <translation>密鑰：</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>測試</translation>
+    </message>
+    <message>
+        <source>GLIMMER_SPEECHD_OPENAI_URL is set: automatic captions use that server whatever is chosen here.</source>
+        <translation>已設定 GLIMMER_SPEECHD_OPENAI_URL：無論此處如何選擇，自動字幕都使用該伺服器。</translation>
+    </message>
+    <message>
+        <source>Testing...</source>
+        <translation>正在測試...</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechEngineTest</name>
+    <message numerus="yes">
+        <source>The test got no answer within %n second(s).</source>
+        <translation>
+            <numerusform>測試在 %n 秒內沒有收到回應。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The speech service program is missing: %1</source>
+        <translation>缺少語音辨識服務程式：%1</translation>
+    </message>
+    <message>
+        <source>The speech service stopped: %1</source>
+        <translation>語音辨識服務已停止：%1</translation>
+    </message>
+    <message>
+        <source>The speech service could not be started: %1</source>
+        <translation>無法啟動語音辨識服務：%1</translation>
+    </message>
+    <message>
+        <source>The test sound could not be written: %1</source>
+        <translation>無法寫入測試聲音：%1</translation>
+    </message>
+    <message>
+        <source>The built-in engine works. It recognises English.</source>
+        <translation>內置引擎運作正常，可識別英語。</translation>
+    </message>
+    <message>
+        <source>%1 answered with model %2. It recognises the languages its model knows.</source>
+        <translation>%1 已使用模型 %2 回應，可識別其模型所支援的語言。</translation>
+    </message>
+    <message>
+        <source>(default)</source>
+        <translation>（預設）</translation>
+    </message>
+</context>
+<context>
     <name>SpeechService</name>
     <message>
         <source>The speech service did not start in time.</source>
@@ -917,6 +1013,10 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>無法啟動語音辨識服務：%1</translation>
+    </message>
+    <message>
+        <source>The speech service did not answer: %1</source>
+        <translation>語音服務沒有回應：%1</translation>
     </message>
 </context>
 <context>
@@ -1145,6 +1245,18 @@
     <message>
         <source>Clear captions</source>
         <translation>清除字幕</translation>
+    </message>
+    <message>
+        <source>%1 needs a speech server</source>
+        <translation>%1 需要語音伺服器</translation>
+    </message>
+    <message>
+        <source>The built-in speech engine recognises English only. To make captions in %1, connect a transcription server in Speech engine.</source>
+        <translation>內置語音引擎僅識別英語。要生成%1字幕，請在「語音引擎」中連接轉寫伺服器。</translation>
+    </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>語音引擎...</translation>
     </message>
 </context>
 <context>

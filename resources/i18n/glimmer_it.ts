@@ -321,6 +321,10 @@
         <source>Remove</source>
         <translation>Rimuovi</translation>
     </message>
+    <message>
+        <source>%1 – needs a speech server</source>
+        <translation>%1 – richiede un server vocale</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -679,6 +683,10 @@
         <source>Choose the output folder</source>
         <translation>Scegli la cartella di destinazione</translation>
     </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Motore vocale...</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -907,6 +915,95 @@
     </message>
 </context>
 <context>
+    <name>SpeechEngineDialog</name>
+    <message>
+        <source>Works: %1</source>
+        <translation>Funziona: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Non riuscito: %1</translation>
+    </message>
+    <message>
+        <source>Speech engine</source>
+        <translation>Motore vocale</translation>
+    </message>
+    <message>
+        <source>Built-in (offline, English only)</source>
+        <translation>Integrato (offline, solo inglese)</translation>
+    </message>
+    <message>
+        <source>Transcription server (OpenAI-compatible API)</source>
+        <translation>Server di trascrizione (API compatibile con OpenAI)</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Indirizzo:</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>Modello:</translation>
+    </message>
+    <message>
+        <source>Key:</source>
+        <translation>Chiave:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nessuna</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Prova</translation>
+    </message>
+    <message>
+        <source>GLIMMER_SPEECHD_OPENAI_URL is set: automatic captions use that server whatever is chosen here.</source>
+        <translation>GLIMMER_SPEECHD_OPENAI_URL è impostata: i sottotitoli automatici usano quel server, qualunque cosa si scelga qui.</translation>
+    </message>
+    <message>
+        <source>Testing...</source>
+        <translation>Prova in corso...</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechEngineTest</name>
+    <message numerus="yes">
+        <source>The test got no answer within %n second(s).</source>
+        <translation>
+            <numerusform>La prova non ha ricevuto risposta entro %n secondo.</numerusform>
+            <numerusform>La prova non ha ricevuto risposta entro %n secondi.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The speech service program is missing: %1</source>
+        <translation>Manca il programma del servizio di riconoscimento vocale: %1</translation>
+    </message>
+    <message>
+        <source>The speech service stopped: %1</source>
+        <translation>Il servizio di riconoscimento vocale si è interrotto: %1</translation>
+    </message>
+    <message>
+        <source>The speech service could not be started: %1</source>
+        <translation>Impossibile avviare il servizio di riconoscimento vocale: %1</translation>
+    </message>
+    <message>
+        <source>The test sound could not be written: %1</source>
+        <translation>Non è stato possibile scrivere il suono di prova: %1</translation>
+    </message>
+    <message>
+        <source>The built-in engine works. It recognises English.</source>
+        <translation>Il motore integrato funziona. Riconosce l’inglese.</translation>
+    </message>
+    <message>
+        <source>%1 answered with model %2. It recognises the languages its model knows.</source>
+        <translation>%1 ha risposto con il modello %2. Riconosce le lingue che il suo modello conosce.</translation>
+    </message>
+    <message>
+        <source>(default)</source>
+        <translation>(predefinito)</translation>
+    </message>
+</context>
+<context>
     <name>SpeechService</name>
     <message>
         <source>The speech service did not start in time.</source>
@@ -923,6 +1020,10 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Impossibile avviare il servizio di riconoscimento vocale: %1</translation>
+    </message>
+    <message>
+        <source>The speech service did not answer: %1</source>
+        <translation>Il servizio vocale non ha risposto: %1</translation>
     </message>
 </context>
 <context>
@@ -1152,6 +1253,18 @@
     <message>
         <source>Clear captions</source>
         <translation>Cancella sottotitoli</translation>
+    </message>
+    <message>
+        <source>%1 needs a speech server</source>
+        <translation>%1 richiede un server vocale</translation>
+    </message>
+    <message>
+        <source>The built-in speech engine recognises English only. To make captions in %1, connect a transcription server in Speech engine.</source>
+        <translation>Il motore vocale integrato riconosce solo l’inglese. Per i sottotitoli in %1, collega un server di trascrizione in Motore vocale.</translation>
+    </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Motore vocale...</translation>
     </message>
 </context>
 <context>

@@ -320,6 +320,10 @@
         <source>Remove</source>
         <translation>削除</translation>
     </message>
+    <message>
+        <source>%1 – needs a speech server</source>
+        <translation>%1 – 音声サーバーが必要</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -673,6 +677,10 @@
         <source>Choose the output folder</source>
         <translation>出力フォルダーを選択</translation>
     </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>音声エンジン...</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -901,6 +909,94 @@
     </message>
 </context>
 <context>
+    <name>SpeechEngineDialog</name>
+    <message>
+        <source>Works: %1</source>
+        <translation>動作します：%1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失敗しました：%1</translation>
+    </message>
+    <message>
+        <source>Speech engine</source>
+        <translation>音声エンジン</translation>
+    </message>
+    <message>
+        <source>Built-in (offline, English only)</source>
+        <translation>内蔵（オフライン、英語のみ）</translation>
+    </message>
+    <message>
+        <source>Transcription server (OpenAI-compatible API)</source>
+        <translation>文字起こしサーバー（OpenAI 互換 API）</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>アドレス：</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>モデル：</translation>
+    </message>
+    <message>
+        <source>Key:</source>
+        <translation>キー：</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>テスト</translation>
+    </message>
+    <message>
+        <source>GLIMMER_SPEECHD_OPENAI_URL is set: automatic captions use that server whatever is chosen here.</source>
+        <translation>GLIMMER_SPEECHD_OPENAI_URL が設定されています：ここでの選択にかかわらず、自動字幕はそのサーバーを使います。</translation>
+    </message>
+    <message>
+        <source>Testing...</source>
+        <translation>テスト中...</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechEngineTest</name>
+    <message numerus="yes">
+        <source>The test got no answer within %n second(s).</source>
+        <translation>
+            <numerusform>テストは %n 秒以内に応答を得られませんでした。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The speech service program is missing: %1</source>
+        <translation>音声認識サービスのプログラムが見つかりません：%1</translation>
+    </message>
+    <message>
+        <source>The speech service stopped: %1</source>
+        <translation>音声認識サービスが停止しました：%1</translation>
+    </message>
+    <message>
+        <source>The speech service could not be started: %1</source>
+        <translation>音声認識サービスを起動できませんでした：%1</translation>
+    </message>
+    <message>
+        <source>The test sound could not be written: %1</source>
+        <translation>テスト音を書き込めませんでした：%1</translation>
+    </message>
+    <message>
+        <source>The built-in engine works. It recognises English.</source>
+        <translation>内蔵エンジンは動作しています。英語を認識します。</translation>
+    </message>
+    <message>
+        <source>%1 answered with model %2. It recognises the languages its model knows.</source>
+        <translation>%1 がモデル %2 で応答しました。モデルが対応する言語を認識します。</translation>
+    </message>
+    <message>
+        <source>(default)</source>
+        <translation>（既定）</translation>
+    </message>
+</context>
+<context>
     <name>SpeechService</name>
     <message>
         <source>The speech service did not start in time.</source>
@@ -917,6 +1013,10 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>音声認識サービスを起動できませんでした：%1</translation>
+    </message>
+    <message>
+        <source>The speech service did not answer: %1</source>
+        <translation>音声サービスが応答しませんでした：%1</translation>
     </message>
 </context>
 <context>
@@ -1145,6 +1245,18 @@
     <message>
         <source>Clear captions</source>
         <translation>字幕をすべて削除</translation>
+    </message>
+    <message>
+        <source>%1 needs a speech server</source>
+        <translation>%1 には音声サーバーが必要です</translation>
+    </message>
+    <message>
+        <source>The built-in speech engine recognises English only. To make captions in %1, connect a transcription server in Speech engine.</source>
+        <translation>内蔵の音声エンジンは英語のみを認識します。%1の字幕を作るには、「音声エンジン」で文字起こしサーバーを接続してください。</translation>
+    </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>音声エンジン...</translation>
     </message>
 </context>
 <context>

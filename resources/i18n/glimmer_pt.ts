@@ -321,6 +321,10 @@
         <source>Remove</source>
         <translation>Remover</translation>
     </message>
+    <message>
+        <source>%1 – needs a speech server</source>
+        <translation>%1 – precisa de um servidor de voz</translation>
+    </message>
 </context>
 <context>
     <name>CaptureController</name>
@@ -679,6 +683,10 @@
         <source>Choose the output folder</source>
         <translation>Escolher a pasta de saída</translation>
     </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Motor de voz...</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
@@ -907,6 +915,95 @@
     </message>
 </context>
 <context>
+    <name>SpeechEngineDialog</name>
+    <message>
+        <source>Works: %1</source>
+        <translation>Funciona: %1</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Falhou: %1</translation>
+    </message>
+    <message>
+        <source>Speech engine</source>
+        <translation>Motor de voz</translation>
+    </message>
+    <message>
+        <source>Built-in (offline, English only)</source>
+        <translation>Integrado (offline, só inglês)</translation>
+    </message>
+    <message>
+        <source>Transcription server (OpenAI-compatible API)</source>
+        <translation>Servidor de transcrição (API compatível com OpenAI)</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Endereço:</translation>
+    </message>
+    <message>
+        <source>Model:</source>
+        <translation>Modelo:</translation>
+    </message>
+    <message>
+        <source>Key:</source>
+        <translation>Chave:</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhuma</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testar</translation>
+    </message>
+    <message>
+        <source>GLIMMER_SPEECHD_OPENAI_URL is set: automatic captions use that server whatever is chosen here.</source>
+        <translation>GLIMMER_SPEECHD_OPENAI_URL está definida: as legendas automáticas usam esse servidor, seja qual for a escolha aqui.</translation>
+    </message>
+    <message>
+        <source>Testing...</source>
+        <translation>Testando...</translation>
+    </message>
+</context>
+<context>
+    <name>SpeechEngineTest</name>
+    <message numerus="yes">
+        <source>The test got no answer within %n second(s).</source>
+        <translation>
+            <numerusform>O teste não recebeu resposta em %n segundo.</numerusform>
+            <numerusform>O teste não recebeu resposta em %n segundos.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The speech service program is missing: %1</source>
+        <translation>O programa do serviço de reconhecimento de fala está ausente: %1</translation>
+    </message>
+    <message>
+        <source>The speech service stopped: %1</source>
+        <translation>O serviço de reconhecimento de fala parou: %1</translation>
+    </message>
+    <message>
+        <source>The speech service could not be started: %1</source>
+        <translation>Não foi possível iniciar o serviço de reconhecimento de fala: %1</translation>
+    </message>
+    <message>
+        <source>The test sound could not be written: %1</source>
+        <translation>Não foi possível gravar o som de teste: %1</translation>
+    </message>
+    <message>
+        <source>The built-in engine works. It recognises English.</source>
+        <translation>O motor integrado funciona. Reconhece inglês.</translation>
+    </message>
+    <message>
+        <source>%1 answered with model %2. It recognises the languages its model knows.</source>
+        <translation>%1 respondeu com o modelo %2. Reconhece os idiomas que o seu modelo conhece.</translation>
+    </message>
+    <message>
+        <source>(default)</source>
+        <translation>(padrão)</translation>
+    </message>
+</context>
+<context>
     <name>SpeechService</name>
     <message>
         <source>The speech service did not start in time.</source>
@@ -923,6 +1020,10 @@
     <message>
         <source>The speech service could not be started: %1</source>
         <translation>Não foi possível iniciar o serviço de reconhecimento de fala: %1</translation>
+    </message>
+    <message>
+        <source>The speech service did not answer: %1</source>
+        <translation>O serviço de voz não respondeu: %1</translation>
     </message>
 </context>
 <context>
@@ -1152,6 +1253,18 @@
     <message>
         <source>Clear captions</source>
         <translation>Limpar legendas</translation>
+    </message>
+    <message>
+        <source>%1 needs a speech server</source>
+        <translation>%1 precisa de um servidor de voz</translation>
+    </message>
+    <message>
+        <source>The built-in speech engine recognises English only. To make captions in %1, connect a transcription server in Speech engine.</source>
+        <translation>O motor de voz integrado só reconhece inglês. Para legendas em %1, ligue um servidor de transcrição em Motor de voz.</translation>
+    </message>
+    <message>
+        <source>Speech engine...</source>
+        <translation>Motor de voz...</translation>
     </message>
 </context>
 <context>

@@ -5,6 +5,7 @@
 #include <QJsonObject>
 #include <QJsonValue>
 
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -14,9 +15,9 @@ int jsonMs(const QJsonValue& value)
     if (!value.isDouble()) {
         return 0;
     }
+    // The range first: converting a double out of an integer's range is undefined.
     const double ms = value.toDouble();
-    if (ms != static_cast<double>(static_cast<qint64>(ms)) || ms < std::numeric_limits<int>::min()
-        || ms > std::numeric_limits<int>::max()) {
+    if (!(ms >= std::numeric_limits<int>::min() && ms <= std::numeric_limits<int>::max()) || ms != std::trunc(ms)) {
         return 0;
     }
     return static_cast<int>(ms);
@@ -31,6 +32,7 @@ SpeechReply SpeechReply::parse(const QByteArray& body)
     reply.m_isAnswer = !object.isEmpty();
     reply.m_state = object.value(QStringLiteral("state")).toString();
     reply.m_message = object.value(QStringLiteral("message")).toString();
+    reply.m_taskId = object.value(QStringLiteral("task_id")).toString();
     const QJsonArray utterances = object.value(QStringLiteral("utterances")).toArray();
     reply.m_utterances.reserve(utterances.size());
     for (const QJsonValue& value : utterances) {

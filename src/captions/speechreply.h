@@ -23,7 +23,10 @@ public:
     // "success", "failed", "running" or whatever the service said; may be empty.
     QString state() const { return m_state; }
     QString message() const { return m_message; }
-    // The "utterances" array; times that are missing or not integers read as 0.
+    // The "task_id" of a submission's answer.
+    QString taskId() const { return m_taskId; }
+    // The "utterances" array; times that are missing, not integers or out of
+    // the range of int read as 0.
     const QList<Utterance>& utterances() const { return m_utterances; }
     // The service said it failed, or sent something that is not an answer.
     bool isFailure(const QByteArray& body) const;
@@ -32,6 +35,7 @@ private:
     bool m_isAnswer = false;
     QString m_state;
     QString m_message;
+    QString m_taskId;
     QList<Utterance> m_utterances;
 };
 

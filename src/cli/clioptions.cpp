@@ -40,6 +40,7 @@ QString CliOptions::helpText()
         "                   [--layout vertical|horizontal|grid] [--space N | --bands auto] [--columns N]\n"
         "                   [--scale PERCENT] [--format png|jpg|webp] [-o OUT | --frames-dir DIR]\n"
         "                   [--force] [--quiet]\n"
+        "       glimmer-cli VIDEO --transcribe [--language CODE] -o OUT.srt [--force] [--quiet]\n"
         "\n"
         "Takes the frame at the start of every chosen caption, with the caption burnt in,\n"
         "and stitches the frames into one picture (-o) or writes each as its own file\n"
@@ -60,6 +61,10 @@ QString CliOptions::helpText()
         "  --format FORMAT    png, jpg or webp (default: from OUT's suffix, else png)\n"
         "  -o, --output OUT   write the stitched picture to OUT\n"
         "  --frames-dir DIR   write every frame as DIR/<video name>_<n>.<format>\n"
+        "  --transcribe       recognise the video's speech and write the captions to OUT\n"
+        "                     (.srt or .ass, by its suffix), as Auto captions does\n"
+        "  --language CODE    the language spoken: en-US (default), es-MX, fr-FR, zh-CN,\n"
+        "                     yue, ko-KR, ja-JP or ru-RU; the speech engine must know it\n"
         "  --force            replace files that already exist\n"
         "  --quiet            print no progress\n"
         "  -h, --help         show this help and exit\n"
@@ -99,6 +104,39 @@ bool CliOptions::parseCaptionList(const QString& text, QList<int>* numbers, QStr
     return true;
 }
 
+CliOptions CliOptions::parseTranscribe(const QCommandLineParser& parser, CliOptions options)
+{
+    options.transcribe = true;
+    for (const QString& name : {QStringLiteral("subtitles"), QStringLiteral("captions"), QStringLiteral("search"),
+                                QStringLiteral("layout"), QStringLiteral("space"), QStringLiteral("bands"),
+                                QStringLiteral("columns"), QStringLiteral("scale"), QStringLiteral("format"),
+                                QStringLiteral("frames-dir")}) {
+        if (parser.isSet(name)) {
+            options.action = UsageError;
+            options.error = QStringLiteral("--%1 makes pictures; --transcribe writes captions").arg(name);
+            return options;
+        }
+    }
+    if (parser.values(QStringLiteral("language")).size() > 1) {
+        options.action = UsageError;
+        options.error = QStringLiteral("--language is given more than once");
+        return options;
+    }
+    if (parser.isSet(QStringLiteral("language"))) {
+        options.language = parser.value(QStringLiteral("language")).trimmed();
+    }
+    options.output = parser.value(QStringLiteral("output"));
+    const QString suffix = QFileInfo(options.output).suffix().toLower();
+    if (options.output.isEmpty()) {
+        options.action = UsageError;
+        options.error = QStringLiteral("--transcribe needs -o OUT.srt (or .ass)");
+    } else if (suffix != QLatin1String("srt") && suffix != QLatin1String("ass")) {
+        options.action = UsageError;
+        options.error = QStringLiteral("cannot write captions as \"%1\": use a .srt or .ass file").arg(options.output);
+    }
+    return options;
+}
+
 CliOptions CliOptions::parse(const QStringList& arguments)
 {
     CliOptions options;
@@ -126,8 +164,10 @@ CliOptions CliOptions::parse(const QStringList& arguments)
     const QCommandLineOption quiet(QStringLiteral("quiet"));
     const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
     const QCommandLineOption version(QStringLiteral("version"));
+    const QCommandLineOption transcribe(QStringLiteral("transcribe"));
+    const QCommandLineOption language(QStringLiteral("language"), QString(), QStringLiteral("CODE"));
     parser.addOptions({subtitles, captions, search, layout, space, bands, columns, scale, format, output, framesDir,
-                       force, quiet, help, version});
+                       force, quiet, help, version, transcribe, language});
     if (!parser.parse(arguments)) {
         return usage(parser.errorText());
     }
@@ -158,6 +198,13 @@ CliOptions CliOptions::parse(const QStringList& arguments)
     options.subtitles = parser.value(subtitles);
     options.force = parser.isSet(force);
     options.quiet = parser.isSet(quiet);
+
+    if (parser.isSet(transcribe)) {
+        return parseTranscribe(parser, options);
+    }
+    if (parser.isSet(language)) {
+        return usage(QStringLiteral("--language goes with --transcribe"));
+    }
 
     if (parser.isSet(captions) && parser.isSet(search)) {
         return usage(QStringLiteral("--captions and --search cannot be combined"));

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+class QCommandLineParser;
+
 // The command line of glimmer-cli, checked as far as it can be without
 // opening any file.
 class CliOptions
@@ -35,6 +37,13 @@ public:
     QString framesDir;
     bool force = false;
     bool quiet = false;
+
+    // --transcribe: the video's speech to a caption file (-o) instead of pictures.
+    bool transcribe = false;
+    QString language = QStringLiteral("en-US"); // --language, a recognition language code
+
+private:
+    static CliOptions parseTranscribe(const QCommandLineParser& parser, CliOptions options);
 };
 
 #endif // CLIOPTIONS_H

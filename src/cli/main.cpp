@@ -5,6 +5,7 @@
 #include "clioptions.h"
 #include "licensemanager.h"
 #include "progressreporter.h"
+#include "transcribejob.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -13,6 +14,7 @@
 
 #include <clocale>
 #include <cstdio>
+#include <type_traits>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -78,14 +80,22 @@ int main(int argc, char* argv[])
 
     ProgressReporter progress(ProgressReporter::modeFor(stderr, options.quiet));
     int exitCode = 1;
-    {
-        CliJob job(options, work.path(), &progress);
-        QObject::connect(&job, &CliJob::finished, &app, [&exitCode](int code) {
+    // Runs a job to its end: its finished(code) is the exit status.
+    const auto run = [&app, &exitCode](auto& job) {
+        using Job = std::remove_reference_t<decltype(job)>;
+        QObject::connect(&job, &Job::finished, &app, [&exitCode](int code) {
             exitCode = code;
             QCoreApplication::exit(code);
         }, Qt::QueuedConnection);
-        QTimer::singleShot(0, &job, &CliJob::start);
+        QTimer::singleShot(0, &job, &Job::start);
         app.exec();
+    };
+    if (options.transcribe) {
+        TranscribeJob job(options, &progress);
+        run(job);
+    } else {
+        CliJob job(options, work.path(), &progress);
+        run(job);
     }
     return exitCode;
 }

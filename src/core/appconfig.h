@@ -43,6 +43,16 @@ inline const QString CAPTION_SHADOW = QStringLiteral("caption_shadow");
 // Addresses of the services; settings with defaults so users and tests can point elsewhere.
 inline const QString SPEECH_SERVER_URL = QStringLiteral("speech_server_url");
 inline const QString DEFAULT_SPEECH_SERVER_URL = QStringLiteral("http://127.0.0.1:17861");
+// The engine behind the bundled speech service: "builtin" or "server" (a
+// transcription server with the OpenAI-compatible API, at this address, with
+// this model and key).
+inline const QString SPEECH_ENGINE = QStringLiteral("speech_engine");
+inline const QString SPEECH_ENGINE_BUILTIN = QStringLiteral("builtin");
+inline const QString SPEECH_ENGINE_SERVER = QStringLiteral("server");
+inline const QString SPEECH_ENGINE_URL = QStringLiteral("speech_engine_url");
+inline const QString SPEECH_ENGINE_MODEL = QStringLiteral("speech_engine_model");
+inline const QString DEFAULT_SPEECH_ENGINE_MODEL = QStringLiteral("whisper-1");
+inline const QString SPEECH_ENGINE_KEY = QStringLiteral("speech_engine_key");
 inline const QString LICENSE_SERVER_URL = QStringLiteral("license_server_url");
 inline const QString DEFAULT_LICENSE_SERVER_URL = QStringLiteral("https://license.glimmer-app.org");
 inline const QString VERSION_FILE_URL = QStringLiteral("version_file_url");

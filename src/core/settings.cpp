@@ -30,6 +30,10 @@ const QVector<DefaultRow>& defaults()
         {AppConfig::FIRST_OPEN_APP, Settings::AnyReader, false},
         {AppConfig::APP_REGISTER, Settings::AnyReader, QString()},
         {AppConfig::SPEECH_SERVER_URL, Settings::AnyReader, AppConfig::DEFAULT_SPEECH_SERVER_URL},
+        {AppConfig::SPEECH_ENGINE, Settings::AnyReader, AppConfig::SPEECH_ENGINE_BUILTIN},
+        {AppConfig::SPEECH_ENGINE_URL, Settings::AnyReader, QString()},
+        {AppConfig::SPEECH_ENGINE_MODEL, Settings::AnyReader, AppConfig::DEFAULT_SPEECH_ENGINE_MODEL},
+        {AppConfig::SPEECH_ENGINE_KEY, Settings::AnyReader, QString()},
         {AppConfig::LICENSE_SERVER_URL, Settings::AnyReader, AppConfig::DEFAULT_LICENSE_SERVER_URL},
         {AppConfig::VERSION_FILE_URL, Settings::AnyReader, AppConfig::DEFAULT_VERSION_FILE_URL},
         // This run only

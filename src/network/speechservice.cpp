@@ -3,10 +3,16 @@
 #include "appconfig.h"
 #include "filemanager.h"
 #include "logcategories.h"
+#include "speechengine.h"
 
 #include <QCoreApplication>
 #include <QDebug>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -21,6 +27,8 @@ constexpr int kStartTimeoutMs = 20000;
 // The service closes its connections and ends at once on SIGTERM; a
 // recognition in progress is cancelled first.
 constexpr int kStopTimeoutMs = 10000;
+// The health answer is immediate; a service that does not give it soon is not answering.
+constexpr int kHealthTimeoutMs = 10000;
 
 QUrl normalized(const QString& url)
 {
@@ -45,6 +53,7 @@ SpeechService::SpeechService(QObject* parent)
     : QObject(parent)
     , m_managedUrl(AppConfig::DEFAULT_SPEECH_SERVER_URL)
     , m_startTimer(new QTimer(this))
+    , m_network(new QNetworkAccessManager(this))
 {
     m_startTimer->setSingleShot(true);
     m_startTimer->setInterval(kStartTimeoutMs);
@@ -116,9 +125,7 @@ void SpeechService::startProcess()
     m_token = newToken();
     m_process = new QProcess(this);
     QProcess* process = m_process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("GLIMMER_SPEECHD_TOKEN"), QString::fromLatin1(m_token));
-    process->setProcessEnvironment(environment);
+    process->setProcessEnvironment(serviceEnvironment(m_token));
     process->setProcessChannelMode(QProcess::SeparateChannels);
     connect(process, &QProcess::readyReadStandardOutput, this, [this, process]() { readOutput(process); });
     connect(process, &QProcess::readyReadStandardError, this, [this, process]() {
@@ -173,19 +180,94 @@ void SpeechService::startProcess()
     }
 }
 
-void SpeechService::readOutput(QProcess* process)
+QProcessEnvironment SpeechService::serviceEnvironment(const QByteArray& token)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    SpeechEngine::stored().applyTo(environment);
+    environment.remove(QStringLiteral("GLIMMER_SPEECHD_TOKEN"));
+    if (!token.isEmpty()) {
+        environment.insert(QStringLiteral("GLIMMER_SPEECHD_TOKEN"), QString::fromLatin1(token));
+    }
+    return environment;
+}
+
+QString SpeechService::listeningUrl(const QString& line)
 {
     static const QRegularExpression listening(QStringLiteral("listening on (http://[^ ]+)"));
+    return listening.match(line).captured(1);
+}
+
+void SpeechService::readOutput(QProcess* process)
+{
     process->setReadChannel(QProcess::StandardOutput);
     while (process->canReadLine()) {
         const QString line = QString::fromUtf8(process->readLine()).trimmed();
         qCDebug(lcNetwork).noquote() << "speech service:" << line;
-        const QRegularExpressionMatch match = listening.match(line);
-        if (match.hasMatch() && process == m_process && m_serviceUrl.isEmpty()) {
-            m_serviceUrl = match.captured(1);
+        const QString url = listeningUrl(line);
+        if (!url.isEmpty() && process == m_process && m_serviceUrl.isEmpty()) {
+            m_serviceUrl = url;
             finishAll(true, QString());
         }
     }
+}
+
+void SpeechService::restart()
+{
+    ++m_generation;
+    stop();
+    m_languagesKnown = false;
+    m_languages.clear();
+    m_anyLanguage = true;
+    emit languagesChanged();
+}
+
+bool SpeechService::recognises(const QString& code) const
+{
+    if (!m_languagesKnown || m_anyLanguage) {
+        return true;
+    }
+    const QString primary = code.section(QLatin1Char('-'), 0, 0).section(QLatin1Char('_'), 0, 0).toLower();
+    return m_languages.contains(primary);
+}
+
+void SpeechService::fetchLanguages(const QString& baseUrl, const Callback& done)
+{
+    const quint64 generation = m_generation;
+    ensureRunning(baseUrl, [this, baseUrl, done, generation](bool ok, const QString& message) {
+        if (generation != m_generation) {
+            return;
+        }
+        if (!ok) {
+            done(false, message);
+            return;
+        }
+        QNetworkRequest request(QUrl(serviceUrl(baseUrl) + QStringLiteral("/api/speech/health")));
+        request.setTransferTimeout(kHealthTimeoutMs);
+        authorize(request);
+        QNetworkReply* reply = m_network->get(request);
+        connect(reply, &QNetworkReply::finished, this, [this, reply, done, generation, baseUrl]() {
+            reply->deleteLater();
+            if (generation != m_generation) {
+                return;
+            }
+            const QJsonObject health = QJsonDocument::fromJson(reply->readAll()).object();
+            if (reply->error() != QNetworkReply::NoError && isManaged(baseUrl)) {
+                done(false, tr("The speech service did not answer: %1").arg(reply->errorString()));
+                return;
+            }
+            // A service of the user's own that does not say takes any language.
+            const QJsonValue languages = health.value(QStringLiteral("languages"));
+            m_anyLanguage = !languages.isArray() || health.value(QStringLiteral("any_language")).toBool();
+            m_languages.clear();
+            for (const QJsonValue& language : languages.toArray()) {
+                m_languages << language.toString().toLower();
+            }
+            m_languagesKnown = true;
+            qCDebug(lcNetwork) << "speech languages:" << (m_anyLanguage ? QStringList{"any"} : m_languages);
+            emit languagesChanged();
+            done(true, QString());
+        });
+    });
 }
 
 void SpeechService::finishAll(bool ok, const QString& message)

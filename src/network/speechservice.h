@@ -4,11 +4,14 @@
 #include <QByteArray>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
+class QNetworkAccessManager;
 class QNetworkRequest;
 class QProcess;
+class QProcessEnvironment;
 class QTimer;
 
 // The bundled speech service. The managed address (the default setting)
@@ -33,6 +36,23 @@ public:
     void cancelPending();
     // Stops the service this application started; nothing otherwise.
     void stop();
+    // The engine changed: the running service stops, the next request starts
+    // one with the new engine, and its languages are asked anew.
+    void restart();
+
+    // Asks the service at baseUrl which languages its engine recognises
+    // (starting the bundled one if need be); done(false, message) when it
+    // cannot be reached. A service that does not say takes any language.
+    void fetchLanguages(const QString& baseUrl, const Callback& done);
+    bool languagesKnown() const { return m_languagesKnown; }
+    // Whether the engine recognises the language ("fr-FR", "yue"); true while unknown.
+    bool recognises(const QString& code) const;
+
+    // The environment glimmer-speechd runs with: the stored speech engine's
+    // server, unless the environment names one, and the token when not empty.
+    static QProcessEnvironment serviceEnvironment(const QByteArray& token);
+    // "http://HOST:PORT" from the service's "listening on" line; empty for other lines.
+    static QString listeningUrl(const QString& line);
 
     bool isManaged(const QString& baseUrl) const;
     bool isStartedByUs() const;
@@ -53,6 +73,8 @@ public:
 signals:
     void serviceStarted();
     void serviceStopped();
+    // The recognised languages became known, or unknown again.
+    void languagesChanged();
 
 private:
     explicit SpeechService(QObject* parent = nullptr);
@@ -68,6 +90,11 @@ private:
     QString m_serviceUrl; // where the bundled service listens, once it said so
     QByteArray m_token;
     QString m_lastError;
+    QNetworkAccessManager* m_network = nullptr;
+    QStringList m_languages; // primary subtags, lower case
+    bool m_anyLanguage = true;
+    bool m_languagesKnown = false;
+    quint64 m_generation = 0; // bumped by restart: answers from before are dropped
 };
 
 #endif // SPEECHSERVICE_H

@@ -5,6 +5,7 @@
 #include "globalmanager.h"
 #include "httpmanager.h"
 #include "speechreply.h"
+#include "speechservice.h"
 
 #include <QFileInfo>
 #include <QJsonObject>
@@ -21,6 +22,14 @@ AutoCaptionFlow::AutoCaptionFlow(QObject* parent)
             fail(reason);
         }
     });
+    // A video open is the first step to its captions: learn the engine's
+    // languages now, so that the language box can mark those it lacks.
+    connect(GlobalManager::instance(), &GlobalManager::globalEvent, this, [](const QString& name, const QVariant&) {
+        if (name == AppConfig::LOAD_FILE_COMPLETE && !SpeechService::instance()->languagesKnown()) {
+            SpeechService::instance()->fetchLanguages(HttpManager::instance()->speechBaseUrl(),
+                                                      [](bool, const QString&) {});
+        }
+    });
 }
 
 bool AutoCaptionFlow::start(int languageKey, const QString& videoPath)
@@ -29,10 +38,29 @@ bool AutoCaptionFlow::start(int languageKey, const QString& videoPath)
         return false;
     }
     CaptionManager* captions = CaptionManager::instance();
-    captions->setCurrentLangItem(captions->getLangItemByKey(languageKey));
+    Language::LanguageItem* language = captions->getLangItemByKey(languageKey);
+    captions->setCurrentLangItem(language);
     m_running = true;
     emit busy(tr("Generating captions..."));
-    GlobalManager::instance()->videoToAudio(videoPath);
+    // The engine's languages first: a language it lacks is refused before any extraction.
+    const quint64 attempt = ++m_attempt;
+    const QString code = language ? language->code : QString();
+    const QString name = language ? CaptionManager::tr(language->name.toUtf8().constData()) : QString();
+    SpeechService* service = SpeechService::instance();
+    service->fetchLanguages(HttpManager::instance()->speechBaseUrl(),
+                            [this, attempt, code, name, videoPath, service](bool ok, const QString& message) {
+                                if (attempt != m_attempt || !m_running) {
+                                    return;
+                                }
+                                if (!ok) {
+                                    fail(message);
+                                } else if (!service->recognises(code)) {
+                                    m_running = false;
+                                    emit languageNeedsServer(name);
+                                } else {
+                                    GlobalManager::instance()->videoToAudio(videoPath);
+                                }
+                            });
     return true;
 }
 
@@ -68,6 +96,7 @@ void AutoCaptionFlow::answerArrived(const QByteArray& body)
 
 void AutoCaptionFlow::cancel()
 {
+    ++m_attempt;
     m_running = false;
 }
 

@@ -5,10 +5,9 @@
 #include <QObject>
 #include <QString>
 
-class QByteArray;
-
-// Automatic captions from the open video: extract the sound track, upload it,
-// turn the service's answer into the caption list. One request at a time.
+// Automatic captions from the open video: make sure the speech engine knows
+// the language, extract the sound track, upload it, turn the service's answer
+// into the caption list. One request at a time.
 class AutoCaptionFlow : public QObject
 {
     Q_OBJECT
@@ -29,12 +28,16 @@ signals:
     void busy(QString text);
     // The request ended without captions; the busy state is over.
     void failed(QString title, QString message);
+    // The speech engine does not recognise the language (its shown name);
+    // nothing was extracted and the busy state is over.
+    void languageNeedsServer(QString languageName);
 
 private:
     void fail(const QString& message);
     void requestErrorHandle(const QString& key, const QByteArray& body);
 
     bool m_running = false;
+    quint64 m_attempt = 0; // bumped by cancel: a late answer about languages is dropped
 };
 
 #endif // AUTOCAPTIONFLOW_H

@@ -8,6 +8,7 @@
 #include "globalmanager.h"
 #include "logcategories.h"
 #include "settings.h"
+#include "speechservice.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -162,6 +163,7 @@ void CaptionWidget::buildUi()
 
     setMinimumWidth(AppConfig::rate(260));
     fillLanguageBox();
+    connect(SpeechService::instance(), &SpeechService::languagesChanged, this, &CaptionWidget::fillLanguageBox);
 
     connect(m_search, &QLineEdit::textChanged, this, &CaptionWidget::searchTextChanged);
     connect(m_searchButton, &QPushButton::clicked, this, [this]() { searchTextChanged(m_search->text()); });
@@ -241,9 +243,13 @@ void CaptionWidget::fillLanguageBox()
     const int current = m_languageBox->count() > 0 ? currentLanguageKey() : stored;
     const QSignalBlocker blocker(m_languageBox);
     m_languageBox->clear();
+    const SpeechService* service = SpeechService::instance();
     for (Language::LanguageItem* item : captions->getLangItems()) {
         // The names are translatable source texts of the caption model.
-        m_languageBox->addItem(CaptionManager::tr(item->name.toUtf8().constData()), item->key);
+        const QString name = CaptionManager::tr(item->name.toUtf8().constData());
+        // Languages the speech engine does not recognise say what they need.
+        m_languageBox->addItem(service->recognises(item->code) ? name : tr("%1 – needs a speech server").arg(name),
+                               item->key);
     }
     const int index = qMax(0, captions->getLangItemIndexByKey(current));
     m_languageBox->setCurrentIndex(index);

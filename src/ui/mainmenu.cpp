@@ -6,6 +6,7 @@
 #include "globalmanager.h"
 #include "registerdialog.h"
 #include "settings.h"
+#include "speechenginedialog.h"
 #include "translatemanager.h"
 
 #include <QAction>
@@ -33,6 +34,7 @@ MainMenu::MainMenu(QWidget* parent)
     add(MenuCaptionPanel)->setCheckable(true);
     addSeparator();
     add(MenuOutputFolder);
+    add(MenuSpeechEngine);
 
     m_formatMenu = addMenu(QString());
     for (const QString& format : {AppConfig::FORMAT_PNG, AppConfig::FORMAT_JPG, AppConfig::FORMAT_WEBP}) {
@@ -72,6 +74,7 @@ QMap<int, QString> MainMenu::texts()
         {MenuAddSubtitle, tr("Add local subtitle...")},
         {MenuCaptionPanel, tr("Caption panel")},
         {MenuOutputFolder, tr("Output folder...")},
+        {MenuSpeechEngine, tr("Speech engine...")},
         {MenuCheckUpdate, tr("Check for updates")},
         {MenuRegister, tr("Register...")},
         {MenuAbout, tr("About Glimmer")},
@@ -124,6 +127,9 @@ void MainMenu::openDialog(int type)
         }
         break;
     }
+    case MenuSpeechEngine:
+        SpeechEngineDialog::showFor(window);
+        break;
     case MenuCheckUpdate: {
         auto* dialog = new CheckUpdateDialog(window);
         dialog->setAttribute(Qt::WA_DeleteOnClose);

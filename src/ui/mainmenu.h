@@ -24,6 +24,7 @@ public:
         MenuAbout = 6,
         MenuLogFolder = 7,
         MenuQuit = 8,
+        MenuSpeechEngine = 9,
     };
     Q_ENUM(MenuType)
 
@@ -33,8 +34,8 @@ public:
     // The texts of the actions, in the current interface language.
     static QMap<int, QString> texts();
     void retranslate();
-    // The actions that only open a dialog or a folder: output folder, check
-    // for updates, registration, About, log folder.
+    // The actions that only open a dialog or a folder: output folder, speech
+    // engine, check for updates, registration, About, log folder.
     void openDialog(int type);
     // Actions of the window's flows (undo, redo, saving captions), shown
     // after the file actions.

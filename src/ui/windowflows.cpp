@@ -23,13 +23,16 @@
 #include "previewwidget.h"
 #include "registerguidedialog.h"
 #include "settings.h"
+#include "speechenginedialog.h"
 #include "undohistory.h"
 #include "videoplaywidget.h"
 
 #include <QDebug>
 #include <QAction>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QPushButton>
 
 WindowFlows::WindowFlows(const Parts& parts)
@@ -123,6 +126,10 @@ void WindowFlows::initAutoCaptions()
         m_parts.loading->hide();
         showMessage(title, message);
     });
+    connect(m_autoCaptions, &AutoCaptionFlow::languageNeedsServer, this, [this](const QString& language) {
+        m_parts.loading->hide();
+        offerSpeechEngine(language);
+    });
     connect(m_parts.captions, &CaptionWidget::autoCaptionSignal, this, [this](int languageKey) {
         if (!m_parts.player->isLoadFile()) {
             showMessage(tr("No video"), tr("Open a video first, then generate its captions."));
@@ -130,6 +137,27 @@ void WindowFlows::initAutoCaptions()
         }
         m_autoCaptions->start(languageKey, GlobalManager::instance()->getCurrentFile().absoluteFilePath());
     });
+}
+
+void WindowFlows::offerSpeechEngine(const QString& language)
+{
+    qCDebug(lcUi) << "language needs a speech server:" << language;
+    auto* box = new QMessageBox(QMessageBox::Information, tr("%1 needs a speech server").arg(language),
+                                tr("The built-in speech engine recognises English only. To make captions in %1, "
+                                   "connect a transcription server in Speech engine.")
+                                    .arg(language),
+                                QMessageBox::NoButton, m_parts.window);
+    box->setObjectName(QStringLiteral("speech_engine_needed"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    QPushButton* open = box->addButton(tr("Speech engine..."), QMessageBox::AcceptRole);
+    box->addButton(QCoreApplication::translate("Confirmation", "Cancel"), QMessageBox::RejectRole);
+    box->setDefaultButton(open);
+    connect(box, &QMessageBox::buttonClicked, this, [this, open](QAbstractButton* button) {
+        if (button == open) {
+            SpeechEngineDialog::showFor(m_parts.window);
+        }
+    });
+    box->open();
 }
 
 void WindowFlows::initCaptionFiles()

@@ -64,6 +64,8 @@ signals:
 private:
     void initCapture();
     void initAutoCaptions();
+    // The chosen language needs a transcription server: says so and offers the Speech engine dialog.
+    void offerSpeechEngine(const QString& language);
     void initCaptionFiles();
     void initExports();
     void initHistory();
